@@ -1,0 +1,13 @@
+#pragma once
+
+#include <ostream>
+
+namespace vorlex {
+
+class Session;
+
+/// Prints what a data file read into the session holds: project, stages,
+/// life-table statistics, controls, releases and the ET function.
+void PrintDataFileSummary(const Session& session, std::ostream& out);
+
+} // namespace vorlex

@@ -1,0 +1,83 @@
+// vorlex: the command-line twin of the desktop program.
+#include "cli/InfoCommand.h"
+#include "datafile/DataFileReader.h"
+#include "model/Session.h"
+#include "textio/NumberForms.h"
+#include "textio/RuntimeError.h"
+
+#include <iostream>
+#include <string>
+#include <vector>
+
+namespace {
+
+constexpr const char* kUsage =
+    "Usage:\n"
+    "  vorlex info DATAFILE [--cxj] [--sim-time N]\n"
+    "      Reads a project data file as the load does and prints what it holds.\n"
+    "      --cxj          the file has the consumption block C(x,j)\n"
+    "      --sim-time N   simulation time that bounds the daily tables (default 60)\n";
+
+// Info reads a file without asking anything.
+class SilentPrompter : public vorlex::Prompter {
+public:
+  std::string askValue(const std::string&, const std::string&, const std::string& defaultText) override {
+    return defaultText;
+  }
+  bool askYesNo(const std::string&, const std::string&) override { return false; }
+  void inform(const std::string&, const std::string&) override {}
+  std::string chooseFileToOpen(const std::string&) override { return {}; }
+  std::string chooseFileToSave(const std::string&) override { return {}; }
+};
+
+int runInfo(const std::vector<std::string>& args) {
+  std::string dataFile;
+  bool withCxj = false;
+  std::string simTime = "60";
+  for (std::size_t i = 0; i < args.size(); ++i) {
+    if (args[i] == "--cxj") {
+      withCxj = true;
+    } else if (args[i] == "--sim-time" && i + 1 < args.size()) {
+      simTime = args[++i];
+    } else if (!args[i].empty() && args[i][0] != '-' && dataFile.empty()) {
+      dataFile = args[i];
+    } else {
+      std::cerr << kUsage;
+      return 2;
+    }
+  }
+  if (dataFile.empty()) {
+    std::cerr << kUsage;
+    return 2;
+  }
+
+  SilentPrompter prompter;
+  vorlex::Session session(prompter);
+  session.flags.WithCxj = withCxj ? "Yes" : "No";
+  session.names.DataFileName = dataFile;
+  vorlex::Model& m = session.model();
+  m.SimTime = vorlex::toInt16(vorlex::numberEntry(simTime));
+  m.SimTimeNext = vorlex::checkedInt16(m.SimTime + 1);
+  vorlex::ReadDataFile(session, dataFile);
+  vorlex::PrintDataFileSummary(session, std::cout);
+  return 0;
+}
+
+} // namespace
+
+int main(int argc, char** argv) {
+  const std::vector<std::string> args(argv + 1, argv + argc);
+  if (args.empty() || args[0] == "--help" || args[0] == "-h") {
+    std::cout << kUsage;
+    return args.empty() ? 2 : 0;
+  }
+  try {
+    if (args[0] == "info")
+      return runInfo({args.begin() + 1, args.end()});
+    std::cerr << "vorlex: unknown command '" << args[0] << "'\n" << kUsage;
+    return 2;
+  } catch (const vorlex::RuntimeError& error) {
+    std::cerr << "vorlex: " << error.what() << '\n';
+    return 1;
+  }
+}

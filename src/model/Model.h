@@ -1,0 +1,173 @@
+#pragma once
+
+#include "model/Table.h"
+#include "textio/Value.h"
+
+#include <cstdint>
+#include <string>
+
+namespace vorlex {
+
+using i16 = std::int16_t;
+
+/// Fixed bounds of every table; nothing is resized.
+inline constexpr int kLastAgeSlot = 1005;  // ages 0..1005
+inline constexpr int kLastStageSlot = 12;  // stages 1..12, slot 0 unused
+inline constexpr int kLastDaySlot = 1005;  // days 0..1005
+inline constexpr int kLastControlSlot = 10;
+inline constexpr int kLastEffectiveDay = 10;
+inline constexpr int kLastReleaseSlot = 100;
+inline constexpr int kLastFactorSlot = 10;
+inline constexpr int kMaxInitialRecords = 1000;
+inline constexpr int kMaxReleaseRecords = 100;
+
+/// The forms of ET(t) a data file can give, told apart by their description.
+enum class EtForm { None, TwoPeriods, ThreePeriods, Logistic };
+
+/// The age-stage, two-sex population model: the life table read from the
+/// project data file, the control schedule, and every daily series a run
+/// fills. One instance lives for the whole session and is never cleared.
+///
+/// Ages are x = 0..LastAge, stages j = 1..NrStage; stage NrStage-1 is the
+/// female, NrStage the male, both develop out of stage NrStage-2. Integers
+/// are 16-bit as the data file has them, real numbers doubles.
+struct Model {
+  // Scalars of the project.
+  std::string ProjectName;
+  Value ProjectDate;
+  Value ProjectUser;
+  i16 LastAge = 0;
+  i16 NrStage = 0;
+  i16 FemaleStage = 0;
+  double FecundityDecrease = 0;
+  double GrowthDecrease = 0;
+  double DevelopDecrease = 0;
+  double ConsumeDecrease = 0;
+  i16 NrWeakFactor = 0;
+  i16 NrControl = 0;
+  i16 NrRelease = 0;
+  double SamplingInterval = 0;
+  double SamplingStageFrom = 0;
+  double SamplingStageTo = 0;
+  double PreviousCumWID = 0;
+  double MeanFecundity = 0;
+  double NetReproductiveRate = 0;
+  double IntrinsicRate = 0;
+  double FiniteRate = 0;
+  double GenerationTime = 0;
+  i16 LastAgeOfFile = 0;
+  double DensityCoefBelowK = 0;
+  double DensityCoefOverK = 0;
+  double EtA = 0, EtB = 0, EtC = 0, EtD = 0, EtE = 0, EtF = 0, EtG = 0;
+  /// The form of ET(t) the data file gave.
+  EtForm EtSelector = EtForm::None;
+  i16 SimTime = 60;
+  i16 SimTimeNext = 61;
+  double TimeUnit = 1;
+  i16 ReleaseDate = 0;
+  /// The description item read last.
+  std::string Descriptionx;
+
+  // Tables read from the data file.
+  Table2<i16> StageAge{kLastStageSlot, 2};
+  Table1<std::string> StageName{kLastStageSlot};
+  Table1<double> WeighCoef{kLastStageSlot};
+  Table1<double> DensityCoef{kLastStageSlot};
+  Table2<double> WeighCoefAgeStage{kLastAgeSlot, kLastStageSlot};
+  Table2<double> DensityCoefAgeStage{kLastAgeSlot, kLastStageSlot};
+  Table2<double> Fecundity{kLastAgeSlot, kLastStageSlot};
+  Table2<double> GrowthRate{kLastAgeSlot, kLastStageSlot};
+  Table2<double> DevelopRate{kLastAgeSlot, kLastStageSlot};
+  Table2<double> DeathRate{kLastAgeSlot, kLastStageSlot};
+  Table2<double> Consumption{kLastAgeSlot, kLastStageSlot};
+  Table2<double> InitialN{kLastAgeSlot, kLastStageSlot};
+  Table1<std::string> WeakFactorName{kLastFactorSlot};
+  Table2<double> WeakCoef{kLastFactorSlot, kLastStageSlot};
+  Table1<double> EtDay{kLastDaySlot};
+  Table1<i16> ControlDate{kLastControlSlot};
+  Table1<i16> CriticalDay{kLastControlSlot};
+  Table1<std::string> ControlName{kLastControlSlot};
+  Table1<double> ControlDuration{20};
+  Table3<double> ControlMortality{kLastStageSlot, kLastEffectiveDay, kLastControlSlot};
+  Table2<double> StageSurvivalDay{kLastStageSlot, kLastDaySlot};
+  Table2<double> StageSurvivalDay0{kLastStageSlot, kLastDaySlot};
+  Table1<Value> ReleaseDay{kLastReleaseSlot};
+  Table3<double> ReleaseN{kLastReleaseSlot, kLastAgeSlot, kLastStageSlot};
+  /// Scheduled additions of the projection.
+  Table1<double> AddDay{20};
+
+  // Tables derived at set-up.
+  Table2<double> Lxj{kLastAgeSlot, kLastStageSlot};
+  Table1<double> AgeX{kLastAgeSlot};
+  Table1<double> Lx{kLastAgeSlot};
+  Table1<double> Mx{kLastAgeSlot};
+  Table1<double> MxCopy{kLastAgeSlot};
+  Table1<double> Px{kLastAgeSlot};
+
+  // Day 0 of a projection.
+  i16 Day = 0;
+  double InitialSize = 0;
+  Table1<double> InitialAgeN{kLastAgeSlot};
+  double TotalSizeStart = 0;
+  double TotalSizeBase = 0;
+
+  // Tables written by the run.
+  Table2<double> PopN{kLastAgeSlot, kLastStageSlot};
+  Table2<double> NextN{kLastAgeSlot, kLastStageSlot};
+  Table2<double> PhysoN{kLastAgeSlot, kLastStageSlot};
+  Table2<double> NextPhysoN{kLastAgeSlot, kLastStageSlot};
+  Table2<double> AgeSize{kLastAgeSlot, kLastDaySlot};
+  Table2<double> PhysoAgeSize{kLastAgeSlot, kLastDaySlot};
+  Table2<double> StageSize{kLastStageSlot, kLastDaySlot};
+  Table2<double> PhysoStageSize{kLastStageSlot, kLastDaySlot};
+  Table2<double> StageFraction{kLastStageSlot, kLastDaySlot};
+  Table2<double> PhysoStageFraction{kLastStageSlot, kLastDaySlot};
+  Table2<double> StageGrowthLn{kLastStageSlot, kLastDaySlot};
+  Table2<double> StageGrowthLog{kLastStageSlot, kLastDaySlot};
+  Table2<double> PhysoStageGrowthLn{kLastStageSlot, kLastDaySlot};
+  Table2<double> PhysoStageGrowthLog{kLastStageSlot, kLastDaySlot};
+  Table1<double> TotalSize{kLastDaySlot};
+  Table1<double> StageSum{kLastDaySlot};
+  Table1<double> PhysoTotalSize{kLastDaySlot};
+  Table1<double> PhysoStageSum{kLastDaySlot};
+  Table1<double> DailyWID{kLastDaySlot};
+  Table1<double> PhysoDailyWID{kLastDaySlot};
+  Table1<double> WeighedSize{kLastDaySlot};
+  Table1<double> PhysoWeighedSize{kLastDaySlot};
+  Table1<double> CUMWID{kLastDaySlot};
+  Table1<double> PhysoCUMWID{kLastDaySlot};
+  Table1<double> VulnerableSize{kLastDaySlot};
+  Table1<double> VulnerableTotal{kLastDaySlot};
+  Table1<double> PhysoVulnerableTotal{kLastDaySlot};
+  Table1<double> TotalDifference{kLastDaySlot};
+  Table1<double> TotalGrowthLn{kLastDaySlot};
+  Table1<double> PhysoTotalGrowthLn{kLastDaySlot};
+  Table1<double> StageSumGrowthLn{kLastDaySlot};
+  Table1<double> StageSumGrowthLog{kLastDaySlot};
+  Table1<double> BurstReadySize{kLastDaySlot};
+  Table1<double> BurstReadyGrowthLn{kLastDaySlot};
+  Table1<double> BurstReadyGrowthLog{kLastDaySlot};
+  Table1<double> TotalConsumption{kLastDaySlot};
+  Table1<double> CumuConsumption{kLastDaySlot};
+  Table1<double> TotalCost{kLastDaySlot};
+  Table1<double> TotalHarvest{kLastDaySlot};
+  Table2<double> StageDeath{kLastDaySlot, kLastStageSlot};
+  Table2<double> LogStageDeath{kLastDaySlot, kLastStageSlot};
+  Table2<double> CumuStageDeath{kLastDaySlot, kLastStageSlot};
+  Table2<double> LogCumuStageDeath{kLastDaySlot, kLastStageSlot};
+  Table1<double> TotalDeath{kLastDaySlot};
+  Table1<double> LogTotalDeath{kLastDaySlot};
+  Table2<double> WeakSize{5, kLastDaySlot};
+  Table1<double> CarryingCapacity{kLastDaySlot};
+  Table1<double> DensityMortality{kLastDaySlot};
+  Table1<double> DensityCoefBelowKDay{kLastDaySlot};
+  Table1<double> DensityCoefOverKDay{kLastDaySlot};
+  Table1<double> SizeToK{kLastDaySlot};
+  Table1<i16> AutoControlDay{kLastDaySlot};
+  Table1<double> SizeBeforeControl{kLastDaySlot};
+  Table1<double> SizeAfterControl{kLastDaySlot};
+  Table1<double> ControlGap{20};
+  Table3<double> AutoControlSurvival{kLastStageSlot, 12, 5};
+};
+
+} // namespace vorlex

@@ -1,0 +1,67 @@
+#pragma once
+
+#include "model/Model.h"
+#include "textio/FileTable.h"
+#include "textio/Prompter.h"
+
+#include <memory>
+#include <string>
+
+namespace vorlex {
+
+/// Flags and marks of a session; texts are compared exactly.
+struct RunFlags {
+  std::string OptManagement = "OptNoControl";
+  std::string GrowthMode = " ";
+  std::string ControlFixedMark;
+  std::string ControlAutoMark;
+  std::string ExtraMortalityOption;
+  std::string FlowFlag;
+  std::string WithCxj;
+  std::string WriteZeroFile = "Yes";
+  std::string OnlyTotalFigures;
+  std::string Physogastry;
+  std::string WithCarryingCapacity = "No";
+  std::string LifeTableLoaded;
+};
+
+/// Names of the files of a session, all made from the data file's name.
+struct FileNames {
+  std::string DataFileName;
+  std::string BaseName;
+  std::string FlowFileName;
+  std::string ReportFileName;
+};
+
+/// Number of the files that stay open: the report and the flow record.
+inline constexpr int kWorkFile = 1;
+inline constexpr int kReportFile = 2;
+inline constexpr int kDataFile = 3;
+inline constexpr int kFlowFile = 4;
+
+/// One start of the program: the model, the flags, the open files and the
+/// user to ask. Every routine works on the one session it is given.
+class Session {
+public:
+  explicit Session(Prompter& prompter) : model_(std::make_unique<Model>()), prompter_(&prompter) {}
+
+  Model& model() { return *model_; }
+  const Model& model() const { return *model_; }
+  RunFlags flags;
+  FileNames names;
+  FileTable files;
+  Prompter& prompter() { return *prompter_; }
+
+  bool flowOn() const { return flags.FlowFlag == "Yes"; }
+  /// Writes a print line to the flow record when it is on.
+  template <typename... Items> void flow(const Items&... items) {
+    if (flowOn())
+      files.output(kFlowFile).print(items...);
+  }
+
+private:
+  std::unique_ptr<Model> model_;
+  Prompter* prompter_;
+};
+
+} // namespace vorlex

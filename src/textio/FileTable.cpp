@@ -1,0 +1,96 @@
+#include "textio/FileTable.h"
+
+#include "textio/RuntimeError.h"
+
+#include <cerrno>
+#include <fstream>
+
+namespace vorlex {
+
+void FileTable::checkFree(int number) const {
+  if (number < 1 || number > kLargestNumber)
+    raise(ErrorCode::BadFileNameOrNumber);
+  if (open_.contains(number))
+    raise(ErrorCode::FileAlreadyOpen);
+}
+
+void FileTable::openWriting(int number, const std::string& path, bool append) {
+  checkFree(number);
+  if (path.empty())
+    raise(ErrorCode::BadFileNameOrNumber);
+  auto stream = std::make_unique<std::ofstream>(
+      path, std::ios::binary | (append ? std::ios::app : std::ios::trunc));
+  if (!*stream)
+    raise(errno == ENOENT ? ErrorCode::PathNotFound : ErrorCode::PathFileAccessError,
+          "File: " + path);
+  Entry entry;
+  entry.path = path;
+  entry.output = std::make_unique<OutputFile>(std::move(stream));
+  open_.emplace(number, std::move(entry));
+}
+
+void FileTable::openOutput(int number, const std::string& path) { openWriting(number, path, false); }
+
+void FileTable::openAppend(int number, const std::string& path) { openWriting(number, path, true); }
+
+void FileTable::openInput(int number, const std::string& path) {
+  checkFree(number);
+  if (path.empty())
+    raise(ErrorCode::BadFileNameOrNumber);
+  attachInput(number, ItemReader::fromFile(path), path);
+}
+
+void FileTable::attachOutput(int number, OutputFile file, std::string path) {
+  checkFree(number);
+  Entry entry;
+  entry.path = std::move(path);
+  entry.output = std::make_unique<OutputFile>(std::move(file));
+  open_.emplace(number, std::move(entry));
+}
+
+void FileTable::attachInput(int number, ItemReader reader, std::string path) {
+  checkFree(number);
+  Entry entry;
+  entry.path = std::move(path);
+  entry.input = std::make_unique<ItemReader>(std::move(reader));
+  open_.emplace(number, std::move(entry));
+}
+
+void FileTable::close(int number) {
+  auto found = open_.find(number);
+  if (found == open_.end())
+    return; // closing a file that isn't open does nothing
+  if (found->second.output)
+    found->second.output->flush();
+  open_.erase(found);
+}
+
+void FileTable::closeAll() {
+  while (!open_.empty())
+    close(open_.begin()->first);
+}
+
+bool FileTable::isOpen(int number) const { return open_.contains(number); }
+
+OutputFile& FileTable::output(int number) {
+  auto found = open_.find(number);
+  if (found == open_.end() || !found->second.output)
+    raise(ErrorCode::BadFileNameOrNumber);
+  return *found->second.output;
+}
+
+ItemReader& FileTable::input(int number) {
+  auto found = open_.find(number);
+  if (found == open_.end() || !found->second.input)
+    raise(ErrorCode::BadFileNameOrNumber);
+  return *found->second.input;
+}
+
+const std::string& FileTable::path(int number) const {
+  auto found = open_.find(number);
+  if (found == open_.end())
+    raise(ErrorCode::BadFileNameOrNumber);
+  return found->second.path;
+}
+
+} // namespace vorlex

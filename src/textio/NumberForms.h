@@ -1,0 +1,55 @@
+#pragma once
+
+#include <cstdint>
+#include <string>
+#include <string_view>
+
+namespace vorlex {
+
+// How numbers look in every file of the program.
+//
+//   value   digits   blankLed   stripped   printForm
+//   0.5     ".5"     " .5"      ".5"       " .5 "
+//   12      "12"     " 12"      "12"       " 12 "
+//   -3      "-3"     "-3"       "3"        "-3 "
+//
+// The digits are the shortest text of up to 15 significant digits, without a
+// zero before the decimal point; very large and very small magnitudes go to
+// exponent form ("1E+16", "1.5E-05").
+
+/// The digits of a number; the item form of a write line.
+std::string digits(double value);
+/// The digits with a blank in front of a number that is not negative.
+std::string blankLed(double value);
+/// The blank-led form without its first character. Drops a minus sign.
+std::string stripped(double value);
+/// The blank-led form with one blank behind, as a print line writes numbers.
+std::string printForm(double value);
+
+/// Rounds to the nearest integer, ties to the even one.
+double roundHalfEven(double value);
+/// Rounds to a 16-bit integer, ties to even; Overflow outside -32768..32767.
+std::int16_t toInt16(double value);
+/// Rounds to a 32-bit integer, ties to even; Overflow outside its range.
+std::int32_t toInt32(double value);
+/// A whole number that must fit 16 bits, such as the result of 16-bit
+/// arithmetic; Overflow outside -32768..32767.
+std::int16_t checkedInt16(long long value);
+
+/// Length of the longest numeric prefix of text (sign, digits, decimal
+/// point, exponent), 0 when there is none.
+std::size_t numericPrefixLength(std::string_view text);
+/// Whether the whole text, leading and trailing blanks aside, is a number.
+bool isNumericText(std::string_view text);
+/// Number entry: the value of the longest numeric prefix of text, after
+/// leading blanks; a text without one gives 0. Overflow for a number beyond
+/// the range of a double.
+double numberEntry(std::string_view text);
+/// Strict conversion of a text to a 16-bit integer: the text must be a
+/// number as a whole (Type mismatch otherwise, the empty text included),
+/// rounded ties to even (Overflow outside the range).
+std::int16_t textToInt16(std::string_view text);
+/// Strict conversion of a text to a double, Type mismatch if it isn't one.
+double textToDouble(std::string_view text);
+
+} // namespace vorlex

@@ -1,0 +1,76 @@
+#include "textio/OutputFile.h"
+
+namespace vorlex {
+
+OutputFile::OutputFile(std::unique_ptr<std::ostream> stream) : stream_(std::move(stream)) {}
+
+OutputFile OutputFile::inMemory() { return OutputFile(std::make_unique<std::ostringstream>()); }
+
+void OutputFile::endLine() {
+  *stream_ << "\r\n";
+  column_ = 1;
+}
+
+std::string OutputFile::text() const {
+  auto* memory = dynamic_cast<std::ostringstream*>(stream_.get());
+  return memory ? memory->str() : std::string{};
+}
+
+void OutputFile::flush() { stream_->flush(); }
+
+void OutputFile::putText(std::string_view text) {
+  stream_->write(text.data(), static_cast<std::streamsize>(text.size()));
+  // A prompt-like text may carry its own line ends; the column follows them.
+  const auto lastBreak = text.find_last_of('\n');
+  if (lastBreak == std::string_view::npos)
+    column_ += static_cast<int>(text.size());
+  else
+    column_ = 1 + static_cast<int>(text.size() - lastBreak - 1);
+}
+
+void OutputFile::put(const Value& value) {
+  if (value.isNumber())
+    put(value.toNumber());
+  else
+    putText(value.toText());
+}
+
+void OutputFile::put(Tab tab) {
+  const int target = tab.column < 1 ? 1 : tab.column;
+  if (column_ > target)
+    endLine();
+  putText(std::string(static_cast<std::size_t>(target - column_), ' '));
+}
+
+void OutputFile::put(Spc spc) {
+  if (spc.count > 0)
+    putText(std::string(static_cast<std::size_t>(spc.count), ' '));
+}
+
+void OutputFile::put(Zone) {
+  const int next = ((column_ - 1) / kZoneWidth + 1) * kZoneWidth + 1;
+  putText(std::string(static_cast<std::size_t>(next - column_), ' '));
+}
+
+void OutputFile::writeItem(std::string_view text, bool first) {
+  if (!first)
+    putText(",");
+  putText("\"");
+  putText(text);
+  putText("\"");
+}
+
+void OutputFile::writeItem(const Value& value, bool first) {
+  if (value.isNumber())
+    writeNumber(value.toNumber(), first);
+  else
+    writeItem(value.toText(), first);
+}
+
+void OutputFile::writeNumber(double number, bool first) {
+  if (!first)
+    putText(",");
+  putText(digits(number));
+}
+
+} // namespace vorlex

@@ -1,0 +1,96 @@
+#pragma once
+
+#include "textio/NumberForms.h"
+#include "textio/Value.h"
+
+#include <concepts>
+#include <memory>
+#include <ostream>
+#include <sstream>
+#include <string>
+#include <string_view>
+
+namespace vorlex {
+
+/// Moves a print line to column n (the first column is 1); to that column of
+/// the next line if the line is already beyond it.
+struct Tab {
+  int column;
+};
+/// Writes n blanks.
+struct Spc {
+  int count;
+};
+/// Moves a print line to the next print zone, the comma of a print list.
+struct Zone {};
+
+/// A text file being written, with the print and write lines that every
+/// report and data file of the program is made of. Lines end in CR LF.
+///
+///   file.print("Total =", 12.0);            // "Total = 12 "
+///   file.printOpen("a");  file.print("b");  // "ab"
+///   file.print("x", Zone{}, "y");           // "x" then "y" at column 15
+///   file.write("Egg", 0.5, -3.0);           // "\"Egg\",.5,-3"
+class OutputFile {
+public:
+  static constexpr int kZoneWidth = 14;
+
+  explicit OutputFile(std::unique_ptr<std::ostream> stream);
+  /// A file that collects its text in memory, see text().
+  static OutputFile inMemory();
+
+  /// Print line: the items one after the other, numbers in the print form,
+  /// texts as they stand; the line is ended.
+  template <typename... Items> void print(const Items&... items) {
+    (put(items), ...);
+    endLine();
+  }
+  /// Print line left open, so that the next print continues it.
+  template <typename... Items> void printOpen(const Items&... items) { (put(items), ...); }
+
+  /// Write line: items separated by commas, numbers in the item form, texts
+  /// in double quotes; the line is ended.
+  template <typename... Items> void write(const Items&... items) {
+    bool first = true;
+    ((writeItem(items, first), first = false), ...);
+    endLine();
+  }
+
+  void endLine();
+  /// The column the next character goes to; the first is 1.
+  int column() const { return column_; }
+  /// The text written so far, for a file made by inMemory().
+  std::string text() const;
+  void flush();
+
+private:
+  void putText(std::string_view text);
+  void put(std::string_view text) { putText(text); }
+  void put(const std::string& text) { putText(text); }
+  void put(const char* text) { putText(text); }
+  void put(const Value& value);
+  void put(Tab tab);
+  void put(Spc spc);
+  void put(Zone);
+  template <typename Number>
+    requires std::integral<Number> || std::floating_point<Number>
+  void put(Number number) {
+    putText(printForm(static_cast<double>(number)));
+  }
+
+  void writeItem(std::string_view text, bool first);
+  void writeItem(const std::string& text, bool first) { writeItem(std::string_view(text), first); }
+  void writeItem(const char* text, bool first) { writeItem(std::string_view(text), first); }
+  void writeItem(const Value& value, bool first);
+  template <typename Number>
+    requires std::integral<Number> || std::floating_point<Number>
+  void writeItem(Number number, bool first) {
+    writeNumber(static_cast<double>(number), first);
+  }
+  void writeNumber(double number, bool first);
+
+  std::unique_ptr<std::ostream> stream_;
+  int column_ = 1;
+};
+
+} // namespace vorlex
