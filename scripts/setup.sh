@@ -1,0 +1,21 @@
+#!/bin/sh
+# Installs what a fresh Debian 12 machine lacks, then configures and builds
+# Vorlex with its tests and benchmarks into build/.
+set -eu
+cd "$(dirname "$0")/.."
+
+packages="cmake g++ make libgtest-dev libbenchmark-dev"
+missing=""
+for package in $packages; do
+  dpkg -s "$package" >/dev/null 2>&1 || missing="$missing $package"
+done
+if [ -n "$missing" ]; then
+  as_root=""
+  [ "$(id -u)" -eq 0 ] || as_root="sudo"
+  $as_root apt-get update
+  # shellcheck disable=SC2086
+  DEBIAN_FRONTEND=noninteractive $as_root apt-get install -y --no-install-recommends $missing
+fi
+
+cmake -S . -B build -DCMAKE_BUILD_TYPE=Release -DVORLEX_BUILD_BENCH=ON
+cmake --build build -j"$(nproc)"

@@ -1,0 +1,156 @@
+#include "textio/NumberForms.h"
+#include "textio/RaisedCode.h"
+#include "textio/RuntimeError.h"
+
+#include <gtest/gtest.h>
+
+#include <cstdlib>
+#include <random>
+#include <string>
+
+namespace vorlex {
+namespace {
+
+using testing_support::raisedCode;
+
+struct DigitsCase {
+  double value;
+  const char* text;
+};
+
+TEST(NumberFormsDigits, ShortestTextWithoutLeadingZero) {
+  const DigitsCase cases[] = {
+      {0.5, ".5"},
+      {-0.25, "-.25"},
+      {12.0, "12"},
+      {-3.0, "-3"},
+      {100.0, "100"},
+      {1234.5678, "1234.5678"},
+      {0.001, ".001"},
+      {0.1 + 0.2, ".3"},
+      {1.0 / 3, ".333333333333333"},
+      {2.0 / 3, ".666666666666667"},
+      {-2.0 / 3, "-.666666666666667"},
+      {123456789012345.0, "123456789012345"},
+      {1e16, "1E+16"},
+      {2.5e20, "2.5E+20"},
+      {-1e-20, "-1E-20"},
+      {0.0, "0"},
+      {-0.0, "0"},
+  };
+  for (const auto& c : cases)
+    EXPECT_EQ(digits(c.value), c.text) << "value " << c.value;
+}
+
+// Fails: 1.5e-5 comes out as ".000015" because numbers switch to exponent
+// form only below 1E-05 (kSmallestFixedExponent is -5; it should be -4).
+TEST(NumberFormsDigits, VerySmallNumbersUseExponentForm) {
+  EXPECT_EQ(digits(1.5e-5), "1.5E-05");
+  EXPECT_EQ(digits(-1.5e-5), "-1.5E-05");
+  EXPECT_EQ(digits(1e-5), "1E-05");
+  EXPECT_EQ(digits(1.5e-4), ".00015");
+}
+
+TEST(NumberFormsDigits, BlankLedStrippedAndPrintForms) {
+  struct FormCase {
+    double value;
+    const char* blankLed;
+    const char* stripped;
+    const char* print;
+  };
+  const FormCase cases[] = {
+      {0.5, " .5", ".5", " .5 "},
+      {12.0, " 12", "12", " 12 "},
+      {-3.0, "-3", "3", "-3 "},
+      {0.0, " 0", "0", " 0 "},
+      {-0.25, "-.25", ".25", "-.25 "},
+  };
+  for (const auto& c : cases) {
+    EXPECT_EQ(blankLed(c.value), c.blankLed) << c.value;
+    EXPECT_EQ(stripped(c.value), c.stripped) << c.value;
+    EXPECT_EQ(printForm(c.value), c.print) << c.value;
+  }
+}
+
+TEST(NumberFormsDigits, StrippedFormOfNegativeNumberReadsBackWithoutSign) {
+  EXPECT_EQ(numberEntry(stripped(-0.2)), 0.2);
+}
+
+// Any number of up to 15 significant digits comes back as the very same
+// double after being written and read.
+TEST(NumberFormsDigits, FifteenDigitNumbersRoundTripExactly) {
+  std::mt19937_64 random(20261121);
+  std::uniform_int_distribution<int> digitCount(1, 15);
+  std::uniform_int_distribution<int> digit(0, 9);
+  std::uniform_int_distribution<int> exponent(-40, 40);
+  for (int i = 0; i < 20000; ++i) {
+    std::string mantissa(1, static_cast<char>('1' + digit(random) % 9));
+    const int count = digitCount(random);
+    for (int k = 1; k < count; ++k)
+      mantissa += static_cast<char>('0' + digit(random));
+    const std::string source = (i % 2 ? "-" : "") + mantissa.substr(0, 1) + "." +
+                               mantissa.substr(1) + "e" + std::to_string(exponent(random));
+    const double value = std::strtod(source.c_str(), nullptr);
+    const std::string text = digits(value);
+    ASSERT_EQ(numberEntry(text), value) << source << " written as " << text;
+    ASSERT_FALSE(text.starts_with("0.") || text.starts_with("-0.")) << source << " written as " << text;
+  }
+}
+
+TEST(NumberFormsRounding, HalvesGoToTheEvenInteger) {
+  const std::pair<double, double> cases[] = {
+      {0.5, 0.0}, {1.5, 2.0}, {2.5, 2.0}, {3.5, 4.0}, {-2.5, -2.0}, {-3.5, -4.0}, {2.4999, 2.0}, {2.5001, 3.0}};
+  for (const auto& [value, rounded] : cases)
+    EXPECT_EQ(roundHalfEven(value), rounded) << value;
+}
+
+TEST(NumberFormsRounding, ToInt16KeepsToItsRange) {
+  EXPECT_EQ(toInt16(32767.4), 32767);
+  EXPECT_EQ(toInt16(-32768.5), -32768);
+  EXPECT_EQ(toInt16(2.5), 2);
+  EXPECT_EQ(toInt16(-7.5), -8);
+  EXPECT_EQ(raisedCode([] { toInt16(32767.5); }), 6);
+  EXPECT_EQ(raisedCode([] { toInt16(-32769.0); }), 6);
+  EXPECT_EQ(raisedCode([] { toInt32(2147483647.5); }), 6);
+}
+
+TEST(NumberFormsRounding, OverflowErrorCarriesNumberAndText) {
+  try {
+    toInt16(40000.0);
+    FAIL() << "no error";
+  } catch (const RuntimeError& error) {
+    EXPECT_EQ(error.number(), 6);
+    EXPECT_EQ(error.text(), "Overflow");
+    EXPECT_STREQ(error.what(), "Run-time error '6': Overflow");
+  }
+}
+
+TEST(NumberFormsEntry, LongestNumericPrefixOrZero) {
+  const std::pair<const char*, double> cases[] = {
+      {"", 0.0},        {"abc", 0.0},       {"12abc", 12.0}, {"  3.5e2x", 350.0}, {".5", 0.5},
+      {"-.25", -0.25},  {"1e", 1.0},        {"1E+", 1.0},    {"1.2.3", 1.2},      {"+7", 7.0},
+      {"-", 0.0},       {".", 0.0},         {"0.5", 0.5},    {"1.5E-05", 1.5e-5}, {"1E+16", 1e16},
+      {"\t42 17", 42.0}, {"- 5", 0.0},
+  };
+  for (const auto& [text, value] : cases)
+    EXPECT_EQ(numberEntry(text), value) << '"' << text << '"';
+}
+
+TEST(NumberFormsEntry, StrictIntegerConversion) {
+  EXPECT_EQ(textToInt16(" 12 "), 12);
+  EXPECT_EQ(textToInt16("-2.5"), -2);
+  EXPECT_EQ(raisedCode([] { textToInt16(""); }), 13);
+  EXPECT_EQ(raisedCode([] { textToInt16("abc"); }), 13);
+  EXPECT_EQ(raisedCode([] { textToInt16("12abc"); }), 13);
+  EXPECT_EQ(raisedCode([] { textToInt16("32768"); }), 6);
+}
+
+TEST(RuntimeErrorPlace, DeepestPlaceIsKept) {
+  const RuntimeError inner = RuntimeError(ErrorCode::InputPastEndOfFile).at("Item 4, line 2");
+  EXPECT_EQ(inner.where(), "Item 4, line 2");
+  EXPECT_STREQ(inner.what(), "Run-time error '62': Input past end of file\nItem 4, line 2");
+  EXPECT_EQ(inner.at("File: pop.txt").where(), "Item 4, line 2");
+}
+
+} // namespace
+} // namespace vorlex
