@@ -13,7 +13,7 @@ namespace {
 constexpr int kEtDaysShown = 8;
 }
 
-void PrintDataFileSummary(const Session& session, std::ostream& out) {
+void printDataFileSummary(const Session& session, std::ostream& out) {
   const Model& m = session.model();
   out << "Data file:    " << session.names.DataFileName << '\n';
   out << "Form:         " << (session.flags.WithCxj == "Yes" ? "with consumption C(x,j)" : "plain") << '\n';
@@ -49,7 +49,7 @@ void PrintDataFileSummary(const Session& session, std::ostream& out) {
     out << "  " << i << ". " << m.ControlName(i) << " on day " << m.ControlDate(i) << ", effective "
         << digits(m.ControlDuration(i)) << " day(s), critical day " << m.CriticalDay(i) << '\n';
 
-  out << "\nET function: " << EtFormName(m.EtSelector) << '\n';
+  out << "\nET function: " << etFormName(m.EtSelector) << '\n';
   const int shown = std::min<int>(kEtDaysShown, m.SimTime + 2);
   out << "  EtDay(0.." << shown - 1 << "):";
   for (int t = 0; t < shown; ++t)

@@ -8,6 +8,6 @@ class Session;
 
 /// Prints what a data file read into the session holds: project, stages,
 /// life-table statistics, controls, releases and the ET function.
-void PrintDataFileSummary(const Session& session, std::ostream& out);
+void printDataFileSummary(const Session& session, std::ostream& out);
 
 } // namespace vorlex

@@ -58,8 +58,8 @@ int runInfo(const std::vector<std::string>& args) {
   vorlex::Model& m = session.model();
   m.SimTime = vorlex::toInt16(vorlex::numberEntry(simTime));
   m.SimTimeNext = vorlex::checkedInt16(m.SimTime + 1);
-  vorlex::ReadDataFile(session, dataFile);
-  vorlex::PrintDataFileSummary(session, std::cout);
+  vorlex::readDataFile(session, dataFile);
+  vorlex::printDataFileSummary(session, std::cout);
   return 0;
 }
 

@@ -84,7 +84,7 @@ void readRates(Session& session) {
   // male stands in the next column.
   for (int age = m.StageAge(lastImmature, 1); age <= m.StageAge(lastImmature, 2); ++age)
     m.DevelopRate(age, lastImmature + 1) = in.readNumber() * m.DevelopDecrease;
-  WorkOutDeathRate(session);
+  workOutDeathRate(session);
 }
 
 void readConsumption(Session& session) {
@@ -148,7 +148,7 @@ void readFirstPart(Session& session, bool withCxj) {
   readInitialPopulation(session);
   InputAdditionalRelease(session);
   readSusceptibility(session);
-  ReadEtFunction(session, withCxj);
+  readEtFunction(session, withCxj);
   readDensityCoefficients(session);
 }
 
@@ -185,7 +185,7 @@ void VorlexA(Session& session) { readWholeFile(session, false); }
 
 void VorlexAwithCxj(Session& session) { readWholeFile(session, true); }
 
-void ReadDataFile(Session& session, const std::string& path) {
+void readDataFile(Session& session, const std::string& path) {
   session.files.openInput(kDataFile, path);
   if (session.flags.WithCxj == "Yes")
     VorlexAwithCxj(session);

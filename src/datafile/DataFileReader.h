@@ -23,6 +23,6 @@ void VorlexAGosub100withCxj(Session& session);
 
 /// Opens a data file as file 3 and reads it in the form the session's
 /// WithCxj flag names, as the load does.
-void ReadDataFile(Session& session, const std::string& path);
+void readDataFile(Session& session, const std::string& path);
 
 } // namespace vorlex

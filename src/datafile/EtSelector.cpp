@@ -6,7 +6,7 @@
 
 namespace vorlex {
 
-EtForm ClassifyEtSelector(const std::string& selector, bool withCxj) {
+EtForm classifyEtSelector(const std::string& selector, bool withCxj) {
   if (selector == kEtTwoPeriodsText)
     return EtForm::TwoPeriods;
   if (selector == kEtThreePeriodsText)
@@ -16,7 +16,7 @@ EtForm ClassifyEtSelector(const std::string& selector, bool withCxj) {
   return EtForm::None;
 }
 
-std::string EtFormName(EtForm form) {
+std::string etFormName(EtForm form) {
   switch (form) {
   case EtForm::TwoPeriods: return "two periods (d up to day c, then e)";
   case EtForm::ThreePeriods: return "three periods (d up to day c, f up to day e, then g)";
@@ -26,11 +26,11 @@ std::string EtFormName(EtForm form) {
   return "none (ET is 0 on every day)";
 }
 
-void ReadEtFunction(Session& session, bool withCxj) {
+void readEtFunction(Session& session, bool withCxj) {
   Model& m = session.model();
   ItemReader& in = session.files.input(kDataFile);
   m.Descriptionx = in.readText();
-  m.EtSelector = ClassifyEtSelector(m.Descriptionx, withCxj);
+  m.EtSelector = classifyEtSelector(m.Descriptionx, withCxj);
   const int lastDay = checkedInt16(m.SimTime + 1);
 
   switch (m.EtSelector) {

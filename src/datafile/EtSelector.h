@@ -21,12 +21,12 @@ inline constexpr const char* kEtLogisticWithCxjText =
 
 /// Which form a selector item names; the logistic text differs between the
 /// two forms of the file, and each reader knows only its own.
-EtForm ClassifyEtSelector(const std::string& selector, bool withCxj);
+EtForm classifyEtSelector(const std::string& selector, bool withCxj);
 /// A name of the form for people to read.
-std::string EtFormName(EtForm form);
+std::string etFormName(EtForm form);
 
 /// Reads the ET selector and its parameters and fills EtDay for days
 /// 0..SimTime+1; a selector of no known form leaves EtDay as it is.
-void ReadEtFunction(Session& session, bool withCxj);
+void readEtFunction(Session& session, bool withCxj);
 
 } // namespace vorlex

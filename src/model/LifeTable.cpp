@@ -20,7 +20,7 @@ void VorlexAGosub640(Session& session) {
       m.Lxj(age, stage) = 0;
 }
 
-void WorkOutDeathRate(Session& session) {
+void workOutDeathRate(Session& session) {
   Model& m = session.model();
   const int last = m.NrStage;
   const auto floorAtZero = [](double v) { return v < 0 ? 0.0 : v; };

@@ -10,7 +10,7 @@ void VorlexAGosub640(Session& session);
 
 /// Works out the share dying at each age of each stage from the growth and
 /// development rates; results below 0 become 0.
-void WorkOutDeathRate(Session& session);
+void workOutDeathRate(Session& session);
 
 /// Builds x, l(x,j), l(x), m(x) and p(x) from the rates read.
 void VorlexAGosub900(Session& session);

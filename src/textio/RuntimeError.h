@@ -48,6 +48,14 @@ private:
   std::string where_;
 };
 
+/// The program ends on purpose, not through a fault: a guard of the
+/// program decided that going on makes no sense. Carries what the user was
+/// told.
+class ProgramEnd : public std::runtime_error {
+public:
+  explicit ProgramEnd(const std::string& reason) : std::runtime_error(reason) {}
+};
+
 /// Stops the work with the given error.
 [[noreturn]] void raise(ErrorCode code, std::string where = {});
 

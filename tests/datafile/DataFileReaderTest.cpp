@@ -340,3 +340,29 @@ TEST(BrokenTable, NobodyReachingAnAgeDividesByZero) {
 
 } // namespace
 } // namespace vorlex::testing
+
+namespace vorlex::testing {
+namespace {
+
+TEST(FlowRecord, LoadWritesItsHeadingsEchoesAndSchedule) {
+  TestSession t(5);
+  t.session->flags.FlowFlag = "Yes";
+  t.session->files.attachOutput(kFlowFile, OutputFile::inMemory());
+  t.read(fileText(dataPath("tiny3.txt")));
+  const std::string flow = t.session->files.output(kFlowFile).text();
+  const auto has = [&](const std::string& line) { return flow.find("\r\n" + line + "\r\n") != std::string::npos; };
+  EXPECT_EQ(flow.rfind("In Public Sub VorlexAGosub100 **** Input VORLEX data ***\r\n", 0), 0u);
+  EXPECT_TRUE(has("              Descriptionx =Description: number of treatment = 2"));
+  EXPECT_TRUE(has("              First control day = 3 "));
+  EXPECT_TRUE(has("            NrControl = 2 "));
+  EXPECT_TRUE(has("            Stage survival rate = .6 "));
+  EXPECT_TRUE(has(" VorlexAGosub900 end.  NrControl = 2 "));
+  EXPECT_TRUE(has("            Stage mortality rate = .25 "));
+
+  TestSession quiet(5);
+  quiet.read(fileText(dataPath("tiny3.txt")));
+  EXPECT_FALSE(quiet.session->files.isOpen(kFlowFile));
+}
+
+} // namespace
+} // namespace vorlex::testing
