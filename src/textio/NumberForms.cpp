@@ -13,7 +13,7 @@ namespace {
 
 // Magnitudes with a decimal exponent outside this range are written in
 // exponent form; both ends read back to the same value.
-constexpr int kSmallestFixedExponent = -5;
+constexpr int kSmallestFixedExponent = -4;
 constexpr int kLargestFixedExponent = 14;
 
 bool isBlank(char c) { return c == ' ' || c == '\t'; }
