@@ -4,6 +4,7 @@
 #include "textio/FileTable.h"
 #include "textio/Prompter.h"
 
+#include <map>
 #include <memory>
 #include <string>
 
@@ -33,6 +34,14 @@ struct FileNames {
   std::string ReportFileName;
 };
 
+/// What the user sees of one control of a form: whether it can be clicked,
+/// whether it shows, its caption.
+struct ControlState {
+  bool enabled = false;
+  bool visible = true;
+  std::string caption;
+};
+
 /// Number of the files that stay open: the report and the flow record.
 inline constexpr int kWorkFile = 1;
 inline constexpr int kReportFile = 2;
@@ -50,6 +59,9 @@ public:
   RunFlags flags;
   FileNames names;
   FileTable files;
+  /// The controls of the forms by name ("cmdRun", "Command5", ...), as the
+  /// main form logic and the routines that touch them leave them.
+  std::map<std::string, ControlState> controls;
   Prompter& prompter() { return *prompter_; }
 
   bool flowOn() const { return flags.FlowFlag == "Yes"; }

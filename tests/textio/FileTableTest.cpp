@@ -16,8 +16,9 @@ using testing_support::raisedCode;
 class FileTableTest : public ::testing::Test {
 protected:
   void SetUp() override {
-    directory_ = std::filesystem::path(::testing::TempDir()) /
-                 ("vorlex_filetable_" + std::string(::testing::UnitTest::GetInstance()->current_test_info()->name()));
+    directory_ =
+        std::filesystem::path(::testing::TempDir()) /
+        ("vorlex_filetable_" + std::string(::testing::UnitTest::GetInstance()->current_test_info()->name()));
     std::filesystem::create_directories(directory_);
   }
   void TearDown() override {

@@ -26,16 +26,14 @@ TEST(ItemReaderText, QuotedAndUnquotedItems) {
 }
 
 TEST(ItemReaderNumber, AnySeparatorGivesTheSameNumbers) {
-  const char* contents[] = {
-      ".5,-3,1E+16",
-      ".5 -3 1E+16",
-      ".5\r\n-3\r\n1E+16\r\n",
-      ".5\n-3\n1E+16",
-      ".5\r-3\r1E+16",
-      ".5 \r\n-3 \r\n1E+16 \r\n",
-      "\r\n.5\r\n\r\n-3,\r\n\r\n  1E+16",
-      "0.5\t-3 , 1e16\r\n \r\n",
-  };
+  const char* contents[] = {".5,-3,1E+16",
+                            ".5 -3 1E+16",
+                            ".5\r\n-3\r\n1E+16\r\n",
+                            ".5\n-3\n1E+16",
+                            ".5\r-3\r1E+16",
+                            ".5 \r\n-3 \r\n1E+16 \r\n",
+                            "\r\n.5\r\n\r\n-3,\r\n\r\n  1E+16",
+                            "0.5\t-3 , 1e16\r\n \r\n"};
   for (const char* content : contents) {
     ItemReader reader(content);
     EXPECT_EQ(reader.readNumber(), 0.5) << content;
@@ -75,7 +73,8 @@ TEST(ItemReaderInteger, RoundsTiesToEvenAndOverflows) {
 
 TEST(ItemReaderValue, QuotedTextStaysTextNumbersBecomeNumbers) {
   ItemReader reader("\"12\",12,2026-11-21,.5, Egg ,\"\"");
-  const Value expected[] = {Value("12"), Value(12.0), Value("2026-11-21"), Value(0.5), Value("Egg"), Value("")};
+  const Value expected[] = {Value("12"), Value(12.0),  Value("2026-11-21"),
+                            Value(0.5),  Value("Egg"), Value("")};
   for (const Value& value : expected) {
     const Value read = reader.readValue();
     EXPECT_EQ(read, value) << "item " << reader.itemNumber();
@@ -87,6 +86,7 @@ TEST(ItemReaderEnd, ReadingPastTheLastItemTellsItemAndLine) {
   ItemReader reader("\"a\",1\r\n\r\n2  ");
   EXPECT_FALSE(reader.atEnd());
   EXPECT_EQ(reader.readText(), "a");
+  EXPECT_FALSE(reader.atEnd());
   EXPECT_EQ(reader.readNumber(), 1.0);
   EXPECT_EQ(reader.readNumber(), 2.0);
   EXPECT_EQ(reader.line(), 3);

@@ -7,6 +7,7 @@
 #include <cstdlib>
 #include <random>
 #include <string>
+#include <utility>
 
 namespace vorlex {
 namespace {
@@ -19,36 +20,36 @@ struct DigitsCase {
 };
 
 TEST(NumberFormsDigits, ShortestTextWithoutLeadingZero) {
-  const DigitsCase cases[] = {
-      {0.5, ".5"},
-      {-0.25, "-.25"},
-      {12.0, "12"},
-      {-3.0, "-3"},
-      {100.0, "100"},
-      {1234.5678, "1234.5678"},
-      {0.001, ".001"},
-      {0.1 + 0.2, ".3"},
-      {1.0 / 3, ".333333333333333"},
-      {2.0 / 3, ".666666666666667"},
-      {-2.0 / 3, "-.666666666666667"},
-      {123456789012345.0, "123456789012345"},
-      {1e16, "1E+16"},
-      {2.5e20, "2.5E+20"},
-      {-1e-20, "-1E-20"},
-      {0.0, "0"},
-      {-0.0, "0"},
-  };
+  const DigitsCase cases[] = {{0.5, ".5"},
+                              {-0.25, "-.25"},
+                              {12.0, "12"},
+                              {-3.0, "-3"},
+                              {100.0, "100"},
+                              {1234.5678, "1234.5678"},
+                              {0.001, ".001"},
+                              {0.1 + 0.2, ".3"},
+                              {1.0 / 3, ".333333333333333"},
+                              {2.0 / 3, ".666666666666667"},
+                              {-2.0 / 3, "-.666666666666667"},
+                              {123456789012345.0, "123456789012345"},
+                              {1e16, "1E+16"},
+                              {2.5e20, "2.5E+20"},
+                              {-1e-20, "-1E-20"},
+                              {0.0, "0"},
+                              {-0.0, "0"}};
   for (const auto& c : cases)
     EXPECT_EQ(digits(c.value), c.text) << "value " << c.value;
 }
 
-// Fails: 1.5e-5 comes out as ".000015" because numbers switch to exponent
-// form only below 1E-05 (kSmallestFixedExponent is -5; it should be -4).
-TEST(NumberFormsDigits, VerySmallNumbersUseExponentForm) {
+// Exponent form starts below 1E-04 and above 14 digits before the point.
+TEST(NumberFormsDigits, ExponentFormAtBothEnds) {
   EXPECT_EQ(digits(1.5e-5), "1.5E-05");
   EXPECT_EQ(digits(-1.5e-5), "-1.5E-05");
   EXPECT_EQ(digits(1e-5), "1E-05");
   EXPECT_EQ(digits(1.5e-4), ".00015");
+  EXPECT_EQ(digits(1e-4), ".0001");
+  EXPECT_EQ(digits(1e15), "1E+15");
+  EXPECT_EQ(digits(999999999999999.0), "999999999999999");
 }
 
 TEST(NumberFormsDigits, BlankLedStrippedAndPrintForms) {
@@ -59,11 +60,8 @@ TEST(NumberFormsDigits, BlankLedStrippedAndPrintForms) {
     const char* print;
   };
   const FormCase cases[] = {
-      {0.5, " .5", ".5", " .5 "},
-      {12.0, " 12", "12", " 12 "},
-      {-3.0, "-3", "3", "-3 "},
-      {0.0, " 0", "0", " 0 "},
-      {-0.25, "-.25", ".25", "-.25 "},
+      {0.5, " .5", ".5", " .5 "}, {12.0, " 12", "12", " 12 "},     {-3.0, "-3", "3", "-3 "},
+      {0.0, " 0", "0", " 0 "},    {-0.25, "-.25", ".25", "-.25 "},
   };
   for (const auto& c : cases) {
     EXPECT_EQ(blankLed(c.value), c.blankLed) << c.value;
@@ -88,8 +86,8 @@ TEST(NumberFormsDigits, FifteenDigitNumbersRoundTripExactly) {
     const int count = digitCount(random);
     for (int k = 1; k < count; ++k)
       mantissa += static_cast<char>('0' + digit(random));
-    const std::string source = (i % 2 ? "-" : "") + mantissa.substr(0, 1) + "." +
-                               mantissa.substr(1) + "e" + std::to_string(exponent(random));
+    const std::string source = (i % 2 ? "-" : "") + mantissa.substr(0, 1) + "." + mantissa.substr(1) + "e" +
+                               std::to_string(exponent(random));
     const double value = std::strtod(source.c_str(), nullptr);
     const std::string text = digits(value);
     ASSERT_EQ(numberEntry(text), value) << source << " written as " << text;
@@ -98,8 +96,8 @@ TEST(NumberFormsDigits, FifteenDigitNumbersRoundTripExactly) {
 }
 
 TEST(NumberFormsRounding, HalvesGoToTheEvenInteger) {
-  const std::pair<double, double> cases[] = {
-      {0.5, 0.0}, {1.5, 2.0}, {2.5, 2.0}, {3.5, 4.0}, {-2.5, -2.0}, {-3.5, -4.0}, {2.4999, 2.0}, {2.5001, 3.0}};
+  const std::pair<double, double> cases[] = {{0.5, 0.0},   {1.5, 2.0},   {2.5, 2.0},    {3.5, 4.0},
+                                             {-2.5, -2.0}, {-3.5, -4.0}, {2.4999, 2.0}, {2.5001, 3.0}};
   for (const auto& [value, rounded] : cases)
     EXPECT_EQ(roundHalfEven(value), rounded) << value;
 }
@@ -127,11 +125,9 @@ TEST(NumberFormsRounding, OverflowErrorCarriesNumberAndText) {
 
 TEST(NumberFormsEntry, LongestNumericPrefixOrZero) {
   const std::pair<const char*, double> cases[] = {
-      {"", 0.0},        {"abc", 0.0},       {"12abc", 12.0}, {"  3.5e2x", 350.0}, {".5", 0.5},
-      {"-.25", -0.25},  {"1e", 1.0},        {"1E+", 1.0},    {"1.2.3", 1.2},      {"+7", 7.0},
-      {"-", 0.0},       {".", 0.0},         {"0.5", 0.5},    {"1.5E-05", 1.5e-5}, {"1E+16", 1e16},
-      {"\t42 17", 42.0}, {"- 5", 0.0},
-  };
+      {"", 0.0},    {"abc", 0.0},        {"12abc", 12.0}, {"  3.5e2x", 350.0}, {".5", 0.5}, {"-.25", -0.25},
+      {"1e", 1.0},  {"1E+", 1.0},        {"1.2.3", 1.2},  {"+7", 7.0},         {"-", 0.0},  {".", 0.0},
+      {"0.5", 0.5}, {"1.5E-05", 1.5e-5}, {"1E+16", 1e16}, {"\t42 17", 42.0},   {"- 5", 0.0}};
   for (const auto& [text, value] : cases)
     EXPECT_EQ(numberEntry(text), value) << '"' << text << '"';
 }
