@@ -3,6 +3,7 @@
 #include "model/LifeTable.h"
 #include "model/Session.h"
 #include "textio/NumberForms.h"
+#include "textio/SilentPrompter.h"
 
 #include <benchmark/benchmark.h>
 
@@ -10,15 +11,6 @@
 #include <sstream>
 
 namespace {
-
-class NoPrompts : public vorlex::Prompter {
-public:
-  std::string askValue(const std::string&, const std::string&, const std::string& d) override { return d; }
-  bool askYesNo(const std::string&, const std::string&) override { return false; }
-  void inform(const std::string&, const std::string&) override {}
-  std::string chooseFileToOpen(const std::string&) override { return {}; }
-  std::string chooseFileToSave(const std::string&) override { return {}; }
-};
 
 std::string exampleText() {
   std::ifstream in(std::string(VORLEX_SOURCE_DIR) + "/examples/moth.txt", std::ios::binary);
@@ -29,7 +21,7 @@ std::string exampleText() {
 
 void BM_ReadExampleDataFile(benchmark::State& state) {
   const std::string text = exampleText();
-  NoPrompts prompts;
+  vorlex::SilentPrompter prompts;
   for (auto _ : state) {
     vorlex::Session session(prompts);
     session.files.attachInput(vorlex::kDataFile, vorlex::ItemReader(text), "moth.txt");
@@ -41,7 +33,7 @@ BENCHMARK(BM_ReadExampleDataFile)->Unit(benchmark::kMillisecond);
 
 // The life-table set-up at the largest size the tables allow.
 void BM_LifeTableAtLargestSize(benchmark::State& state) {
-  NoPrompts prompts;
+  vorlex::SilentPrompter prompts;
   vorlex::Session session(prompts);
   vorlex::Model& m = session.model();
   m.LastAge = 1004;

@@ -4,6 +4,7 @@
 #include "model/Session.h"
 #include "textio/NumberForms.h"
 #include "textio/RuntimeError.h"
+#include "textio/SilentPrompter.h"
 
 #include <iostream>
 #include <string>
@@ -17,18 +18,6 @@ constexpr const char* kUsage =
     "      Reads a project data file as the load does and prints what it holds.\n"
     "      --cxj          the file has the consumption block C(x,j)\n"
     "      --sim-time N   simulation time that bounds the daily tables (default 60)\n";
-
-// Info reads a file without asking anything.
-class SilentPrompter : public vorlex::Prompter {
-public:
-  std::string askValue(const std::string&, const std::string&, const std::string& defaultText) override {
-    return defaultText;
-  }
-  bool askYesNo(const std::string&, const std::string&) override { return false; }
-  void inform(const std::string&, const std::string&) override {}
-  std::string chooseFileToOpen(const std::string&) override { return {}; }
-  std::string chooseFileToSave(const std::string&) override { return {}; }
-};
 
 int runInfo(const std::vector<std::string>& args) {
   std::string dataFile;
@@ -51,7 +40,7 @@ int runInfo(const std::vector<std::string>& args) {
     return 2;
   }
 
-  SilentPrompter prompter;
+  vorlex::SilentPrompter prompter; // info reads a file without asking anything
   vorlex::Session session(prompter);
   session.flags.WithCxj = withCxj ? "Yes" : "No";
   session.names.DataFileName = dataFile;

@@ -3,6 +3,7 @@
 #include "datafile/DataFileReader.h"
 #include "model/Session.h"
 #include "textio/RuntimeError.h"
+#include "textio/SilentPrompter.h"
 
 #include <fstream>
 #include <memory>
@@ -12,14 +13,7 @@
 namespace vorlex::testing {
 
 /// A prompter for tests that never asks anything.
-class NoPrompts : public Prompter {
-public:
-  std::string askValue(const std::string&, const std::string&, const std::string& d) override { return d; }
-  bool askYesNo(const std::string&, const std::string&) override { return false; }
-  void inform(const std::string&, const std::string&) override {}
-  std::string chooseFileToOpen(const std::string&) override { return {}; }
-  std::string chooseFileToSave(const std::string&) override { return {}; }
-};
+using NoPrompts = SilentPrompter;
 
 /// A session of its own with a prompter that never asks.
 struct TestSession {
