@@ -168,6 +168,32 @@ struct Model {
   Table1<double> SizeAfterControl{kLastDaySlot};
   Table1<double> ControlGap{20};
   Table3<double> AutoControlSurvival{kLastStageSlot, 12, 5};
+
+  // Parameters and results of the day step.
+  i16 OverwinterStage = 0;
+  i16 OverwinterDay = 0;
+  double OverwinterMortality = 0;
+  std::string OverwinterRandom;
+  std::string OverwinterDrawn;
+  i16 ExtraStage1 = 0;
+  i16 ExtraFrom1 = 0;
+  i16 ExtraTo1 = 0;
+  double ExtraMortality1 = 0;
+  i16 ExtraStage2 = 0;
+  i16 ExtraFrom2 = 0;
+  i16 ExtraTo2 = 0;
+  double ExtraMortality2 = 0;
+  std::string LowFecundity;
+  i16 LowFecundityFrom = 0;
+  i16 LowFecundityTo = 0;
+  double LowFecundityFactor = 0;
+  /// DailyWID of the last day that was a critical day of a control.
+  double WeighedAtCritical = 0;
+  /// PhysoDailyWID of the last day projected.
+  double PhysoWeighedLast = 0;
+  Table2<double> PhysoWeakSize{5, kLastDaySlot};
+  /// Number of the run in a series of runs; 0 for a single projection.
+  i16 SeriesIndex = 0;
 };
 
 } // namespace vorlex
