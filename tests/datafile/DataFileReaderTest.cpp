@@ -173,7 +173,9 @@ TEST_F(ExampleVariant, FecundityListEndsAtMinusOne) {
   ASSERT_FALSE(text.empty());
   TestSession t;
   const RuntimeError error = errorOf([&] { t.read(text); });
-  EXPECT_NE(error.number(), 0); // the stray items shift everything behind them
+  // The stray items shift everything behind them until a text lands where
+  // a number-or-text value must be a number.
+  EXPECT_EQ(error.number(), 13) << error.where();
 
   TestSession whole;
   const auto from = moth.find("4.75,");
@@ -269,8 +271,8 @@ TEST_F(ExampleVariant, ControlMortalityOfOneKeepsTheDayAtZero) {
 TEST_F(ExampleVariant, WithCxjReaderDoesNotKnowThePlainSelector) {
   // A file with a consumption block that carries the plain logistic text,
   // as the derived files do: the selector is not recognised, the next three
-  // numbers are taken as description and density coefficients, and the rest
-  // of the file shifts until it fails.
+  // numbers are taken as description and density coefficients, and every
+  // later item lands one place off, without a word.
   const auto at = moth.find("\"Description: next lines are initial population");
   std::string withBlock = moth;
   std::string block =
@@ -281,13 +283,15 @@ TEST_F(ExampleVariant, WithCxjReaderDoesNotKnowThePlainSelector) {
     block += " 1 \r\n";
   withBlock.insert(at, block);
   TestSession t;
-  const RuntimeError error = errorOf([&] { t.read(withBlock, true); });
+  t.read(withBlock, true);
   EXPECT_EQ(t.m.Consumption(3, 2), 1);
   EXPECT_EQ(t.m.EtSelector, EtForm::None);
   EXPECT_EQ(t.m.DensityCoefBelowK, 1);
   EXPECT_EQ(t.m.DensityCoefOverK, -.2);
   EXPECT_EQ(t.m.EtDay(3), 0);
-  EXPECT_NE(error.number(), 0);
+  EXPECT_EQ(t.m.NrControl, 0);          // the density description as a count
+  EXPECT_EQ(t.m.SamplingInterval, 1);   // the number of controls
+  EXPECT_EQ(t.m.StageSurvivalDay(2, 10), 1);
 
   // With the selector of its own form it reads through.
   TestSession right;
