@@ -187,6 +187,14 @@ struct Model {
   i16 LowFecundityFrom = 0;
   i16 LowFecundityTo = 0;
   double LowFecundityFactor = 0;
+  /// The mortalities as the user entered them when the fixed answer was
+  /// given, 0 when random; and "No"/"Yes" for fixed/random extra mortality.
+  /// Only the title page of the report reads them.
+  double OverwinterMortalityInput = 0;
+  double ExtraMortalityInput1 = 0;
+  double ExtraMortalityInput2 = 0;
+  std::string ExtraRandom1;
+  std::string ExtraRandom2;
   /// DailyWID of the last day that was a critical day of a control.
   double WeighedAtCritical = 0;
   /// PhysoDailyWID of the last day projected.
