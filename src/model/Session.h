@@ -3,6 +3,7 @@
 #include "model/Model.h"
 #include "textio/FileTable.h"
 #include "textio/Prompter.h"
+#include "textio/ShortDate.h"
 
 #include <map>
 #include <memory>
@@ -63,6 +64,9 @@ public:
   /// main form logic and the routines that touch them leave them.
   std::map<std::string, ControlState> controls;
   Prompter& prompter() { return *prompter_; }
+  /// The date of the run as the report prints it; today unless the front
+  /// end fixes it (reproducible reports).
+  std::string shortDate = systemShortDate();
 
   bool flowOn() const { return flags.FlowFlag == "Yes"; }
   /// Writes a print line to the flow record when it is on.
