@@ -25,7 +25,8 @@ void printDataFileSummary(const Session& session, std::ostream& out) {
 
   out << "  Stage  Name  Ages        Weighing coef.  Density coef.\n";
   for (int stage = 1; stage <= m.NrStage; ++stage) {
-    const std::string ages = std::to_string(m.StageAge(stage, 1)) + ".." + std::to_string(m.StageAge(stage, 2));
+    const std::string ages =
+        std::to_string(m.StageAge(stage, 1)) + ".." + std::to_string(m.StageAge(stage, 2));
     out << "  " << std::setw(5) << stage << "  " << std::left << std::setw(4) << m.StageName(stage) << "  "
         << std::setw(10) << ages << "  " << std::setw(14) << digits(m.WeighCoef(stage)) << "  "
         << digits(m.DensityCoef(stage)) << std::right << '\n';

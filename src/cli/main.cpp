@@ -1,5 +1,6 @@
 // vorlex: the command-line twin of the desktop program.
 #include "cli/InfoCommand.h"
+#include "cli/RunCommand.h"
 #include "datafile/DataFileReader.h"
 #include "model/Session.h"
 #include "textio/NumberForms.h"
@@ -12,12 +13,11 @@
 
 namespace {
 
-constexpr const char* kUsage =
-    "Usage:\n"
-    "  vorlex info DATAFILE [--cxj] [--sim-time N]\n"
-    "      Reads a project data file as the load does and prints what it holds.\n"
-    "      --cxj          the file has the consumption block C(x,j)\n"
-    "      --sim-time N   simulation time that bounds the daily tables (default 60)\n";
+const std::string kUsage = std::string("Usage:\n") + vorlex::cli::kRunUsage +
+                           "  vorlex info DATAFILE [--cxj] [--sim-time N]\n"
+                           "      Reads a project data file as the load does and prints what it holds.\n"
+                           "      --cxj          the file has the consumption block C(x,j)\n"
+                           "      --sim-time N   simulation time that bounds the daily tables (default 60)\n";
 
 int runInfo(const std::vector<std::string>& args) {
   std::string dataFile;
@@ -61,12 +61,17 @@ int main(int argc, char** argv) {
     return args.empty() ? 2 : 0;
   }
   try {
+    if (args[0] == "run")
+      return vorlex::cli::runCommand({args.begin() + 1, args.end()}, std::cout, std::cerr);
     if (args[0] == "info")
       return runInfo({args.begin() + 1, args.end()});
     std::cerr << "vorlex: unknown command '" << args[0] << "'\n" << kUsage;
     return 2;
   } catch (const vorlex::RuntimeError& error) {
     std::cerr << "vorlex: " << error.what() << '\n';
+    return 1;
+  } catch (const vorlex::ProgramEnd& end) {
+    std::cerr << "vorlex: " << end.what() << '\n';
     return 1;
   }
 }

@@ -1,5 +1,7 @@
 #include "textio/FileTable.h"
 
+#include <algorithm>
+
 #include "textio/RuntimeError.h"
 
 #include <cerrno>
@@ -27,6 +29,8 @@ void FileTable::openWriting(int number, const std::string& path, bool append) {
   entry.path = path;
   entry.output = std::make_unique<OutputFile>(std::move(stream));
   open_.emplace(number, std::move(entry));
+  if (std::find(written_.begin(), written_.end(), path) == written_.end())
+    written_.push_back(path);
 }
 
 void FileTable::openOutput(int number, const std::string& path) { openWriting(number, path, false); }

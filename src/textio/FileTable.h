@@ -6,6 +6,7 @@
 #include <map>
 #include <memory>
 #include <string>
+#include <vector>
 
 namespace vorlex {
 
@@ -39,6 +40,9 @@ public:
   ItemReader& input(int number);
   /// The path a number was opened with.
   const std::string& path(int number) const;
+  /// Every file opened for writing on the disk, once each, in the order of
+  /// their first opening.
+  const std::vector<std::string>& writtenPaths() const { return written_; }
 
 private:
   struct Entry {
@@ -50,6 +54,7 @@ private:
   void openWriting(int number, const std::string& path, bool append);
 
   std::map<int, Entry> open_;
+  std::vector<std::string> written_;
 };
 
 } // namespace vorlex

@@ -1,0 +1,112 @@
+#include "cli/AnswerPrompter.h"
+
+#include <algorithm>
+#include <cctype>
+#include <fstream>
+
+namespace vorlex::cli {
+
+namespace {
+
+std::string firstLine(const std::string& text) { return text.substr(0, text.find('\n')); }
+
+std::string lowered(std::string text) {
+  std::transform(text.begin(), text.end(), text.begin(),
+                 [](unsigned char c) { return static_cast<char>(std::tolower(c)); });
+  return text;
+}
+
+} // namespace
+
+void AnswerPrompter::addAnswer(const std::string& titleAndValue) {
+  const auto equals = titleAndValue.rfind('=');
+  if (equals == std::string::npos || equals == 0)
+    throw AnswerError("an answer is written TITLE=VALUE, not '" + titleAndValue + "'");
+  answers_[titleAndValue.substr(0, equals)].push_back(titleAndValue.substr(equals + 1));
+}
+
+void AnswerPrompter::addAnswersFromFile(const std::string& path) {
+  std::ifstream in(path);
+  if (!in)
+    throw AnswerError("cannot read the answers file '" + path + "'");
+  std::string line;
+  while (std::getline(in, line)) {
+    if (!line.empty() && line.back() == '\r')
+      line.pop_back();
+    const auto start = line.find_first_not_of(" \t");
+    if (start == std::string::npos || line[start] == '#')
+      continue;
+    addAnswer(line);
+  }
+}
+
+void AnswerPrompter::answerFirst(const std::string& title, const std::string& value) {
+  answers_[title].push_front(value);
+}
+
+std::vector<std::string> AnswerPrompter::unusedAnswers() const {
+  std::vector<std::string> unused;
+  for (const auto& [title, values] : answers_)
+    unused.insert(unused.end(), values.size(), title);
+  return unused;
+}
+
+bool AnswerPrompter::take(const std::string& title, std::string& answer) {
+  auto found = answers_.find(title);
+  if (found == answers_.end() || found->second.empty())
+    return false;
+  answer = found->second.front();
+  found->second.pop_front();
+  return true;
+}
+
+void AnswerPrompter::show(const std::string& title, const std::string& prompt, const std::string& answer,
+                          bool given) {
+  out_ << '[' << title << "] " << firstLine(prompt) << " => " << answer << (given ? "" : " (default)")
+       << '\n';
+}
+
+std::string AnswerPrompter::askValue(const std::string& prompt, const std::string& title,
+                                     const std::string& defaultText) {
+  std::string answer;
+  const bool given = take(title, answer);
+  if (!given)
+    answer = defaultText;
+  show(title, prompt, answer.empty() ? "(Cancel)" : answer, given);
+  return answer;
+}
+
+bool AnswerPrompter::askYesNo(const std::string& prompt, const std::string& title) {
+  std::string answer;
+  const bool given = take(title, answer);
+  bool yes = false;
+  if (given) {
+    const std::string word = lowered(answer);
+    if (word == "yes" || word == "y")
+      yes = true;
+    else if (word != "no" && word != "n")
+      throw AnswerError("the answer to '" + title + "' is Yes or No, not '" + answer + "'");
+  }
+  show(title, prompt, yes ? "Yes" : "No", given);
+  return yes;
+}
+
+void AnswerPrompter::inform(const std::string& prompt, const std::string& title) {
+  out_ << '[' << title << "] " << prompt << '\n';
+}
+
+std::string AnswerPrompter::chooseFileToOpen(const std::string& title) {
+  std::string answer;
+  const bool given = take(title, answer);
+  show(title, "(file to open)", answer.empty() ? "(Cancel)" : answer, given);
+  return answer;
+}
+
+std::string AnswerPrompter::chooseFileToSave(const std::string& title) {
+  std::string answer;
+  const bool given = take(title, answer);
+  show(title, "(file to save)", answer.empty() ? "(Cancel)" : answer, given);
+  return answer;
+}
+
+} // namespace vorlex::cli

@@ -1,0 +1,57 @@
+#pragma once
+
+#include "textio/Prompter.h"
+
+#include <deque>
+#include <map>
+#include <ostream>
+#include <stdexcept>
+#include <string>
+#include <vector>
+
+namespace vorlex::cli {
+
+/// An answer given on the command line that can't be used.
+class AnswerError : public std::runtime_error {
+public:
+  using std::runtime_error::runtime_error;
+};
+
+/// Answers every prompt by its title with the answers given on the command
+/// line, and prints each prompt with the answer it used.
+///
+/// A title asked several times takes its answers in the order given. Without
+/// an answer a value prompt takes its default text, a yes-or-no question No
+/// and a file dialog Cancel.
+class AnswerPrompter : public Prompter {
+public:
+  explicit AnswerPrompter(std::ostream& out) : out_(out) {}
+
+  /// "Title=Value": the value is what follows the last "=", since titles
+  /// may hold "=" themselves ("Each time unit =?=0.5").
+  void addAnswer(const std::string& titleAndValue);
+  /// One "Title=Value" a line; empty lines and lines starting with # are
+  /// passed over.
+  void addAnswersFromFile(const std::string& path);
+  /// Puts an answer ahead of those given for the same title.
+  void answerFirst(const std::string& title, const std::string& value);
+  /// Titles given answers that were never asked, one entry per answer left.
+  std::vector<std::string> unusedAnswers() const;
+
+  std::string askValue(const std::string& prompt, const std::string& title,
+                       const std::string& defaultText) override;
+  bool askYesNo(const std::string& prompt, const std::string& title) override;
+  void inform(const std::string& prompt, const std::string& title) override;
+  std::string chooseFileToOpen(const std::string& title) override;
+  std::string chooseFileToSave(const std::string& title) override;
+
+private:
+  /// The next answer for a title, if one was given.
+  bool take(const std::string& title, std::string& answer);
+  void show(const std::string& title, const std::string& prompt, const std::string& answer, bool given);
+
+  std::ostream& out_;
+  std::map<std::string, std::deque<std::string>> answers_;
+};
+
+} // namespace vorlex::cli

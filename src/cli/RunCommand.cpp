@@ -1,0 +1,132 @@
+#include "cli/RunCommand.h"
+
+#include "cli/AnswerPrompter.h"
+#include "mainform/MainForm.h"
+#include "model/Session.h"
+#include "textio/NumberForms.h"
+
+#include <algorithm>
+#include <iterator>
+
+namespace vorlex::cli {
+
+const char* const kRunUsage =
+    "  vorlex run DATAFILE [--strategy S] [--sim-time N] [--answer 'TITLE=VALUE']...\n"
+    "             [--answers FILE] [--date TEXT]\n"
+    "      Runs a whole session: simulation time, load of DATAFILE, strategy, run.\n"
+    "      Outputs go beside DATAFILE.\n"
+    "      --strategy S   no-control (default), predefined, auto-et, optimize-first,\n"
+    "                     optimize-interval, harvest, lambda, predation, extra-mortality\n"
+    "      --sim-time N   simulation time (default 60)\n"
+    "      --answer 'TITLE=VALUE'  answers the prompt of that title; a title asked\n"
+    "                     several times takes its answers in order. Without one a\n"
+    "                     value prompt takes its default, yes/no is No, a file\n"
+    "                     dialog is cancelled.\n"
+    "      --answers FILE one TITLE=VALUE a line, # comments\n"
+    "      --date TEXT    date printed on the report (default: today)\n";
+
+namespace {
+
+struct Strategy {
+  const char* name;
+  int option;
+};
+
+constexpr Strategy kStrategies[] = {
+    {"no-control", 1}, {"predefined", 2}, {"auto-et", 3},   {"optimize-first", 4},  {"optimize-interval", 5},
+    {"harvest", 6},    {"lambda", 7},     {"predation", 8}, {"extra-mortality", 9},
+};
+
+struct RunOptions {
+  std::string dataFile;
+  std::string strategy = "no-control";
+  std::string simTime = "60";
+  std::string date;
+};
+
+const Strategy* findStrategy(const std::string& name) {
+  const auto found = std::find_if(std::begin(kStrategies), std::end(kStrategies),
+                                  [&](const Strategy& s) { return name == s.name; });
+  return found == std::end(kStrategies) ? nullptr : found;
+}
+
+// The last day of the series: the day the population died out, or SimTime.
+int lastDayReached(const Model& m) { return m.Day <= m.SimTime ? m.Day : m.SimTime; }
+
+} // namespace
+
+int runCommand(const std::vector<std::string>& args, std::ostream& out, std::ostream& err) {
+  RunOptions options;
+  AnswerPrompter prompter(out);
+  try {
+    for (std::size_t i = 0; i < args.size(); ++i) {
+      const std::string& arg = args[i];
+      const bool hasValue = i + 1 < args.size();
+      if (arg == "--strategy" && hasValue)
+        options.strategy = args[++i];
+      else if (arg == "--sim-time" && hasValue)
+        options.simTime = args[++i];
+      else if (arg == "--answer" && hasValue)
+        prompter.addAnswer(args[++i]);
+      else if (arg == "--answers" && hasValue)
+        prompter.addAnswersFromFile(args[++i]);
+      else if (arg == "--date" && hasValue)
+        options.date = args[++i];
+      else if (!arg.empty() && arg[0] != '-' && options.dataFile.empty())
+        options.dataFile = arg;
+      else
+        throw AnswerError("unexpected argument '" + arg + "'");
+    }
+    if (options.dataFile.empty())
+      throw AnswerError("no data file given");
+  } catch (const AnswerError& error) {
+    err << "vorlex: " << error.what() << "\nUsage:\n" << kRunUsage;
+    return 2;
+  }
+
+  const Strategy* strategy = findStrategy(options.strategy);
+  if (!strategy) {
+    err << "vorlex: unknown strategy '" << options.strategy << "'\nUsage:\n" << kRunUsage;
+    return 2;
+  }
+  const std::string optManagement = MainForm::optManagementOf(strategy->option);
+  if (!MainForm::hasDriver(optManagement)) {
+    err << "vorlex: the strategy '" << strategy->name << "' (" << optManagement
+        << ") is not available in this build yet; nothing was written.\n";
+    return 2;
+  }
+
+  Session session(prompter);
+  if (!options.date.empty())
+    session.shortDate = options.date;
+  prompter.answerFirst(MainForm::kDataFileDialogTitle, options.dataFile);
+
+  MainForm form(session);
+  form.Form_Load();
+  session.controls["txtSimuT"].caption = options.simTime;
+  try {
+    form.Command2_Click();
+    form.cmdInputLTdata_Click();
+    form.chooseOption(strategy->option);
+    form.cmdRun_Click();
+  } catch (const AnswerError& error) {
+    session.files.closeAll();
+    err << "vorlex: " << error.what() << '\n';
+    return 2;
+  }
+  session.files.closeAll();
+
+  const Model& m = session.model();
+  const int lastDay = lastDayReached(m);
+  out << "Strategy: " << strategy->name << " (Option" << strategy->option << ", " << optManagement << ")\n"
+      << "Last day reached: " << lastDay << '\n'
+      << "Total size on day " << lastDay << ": " << digits(m.TotalSize(lastDay)) << '\n'
+      << "Files written:\n";
+  for (const std::string& path : session.files.writtenPaths())
+    out << "  " << path << '\n';
+  for (const std::string& title : prompter.unusedAnswers())
+    err << "vorlex: warning: the answer for '" << title << "' was not asked for\n";
+  return 0;
+}
+
+} // namespace vorlex::cli

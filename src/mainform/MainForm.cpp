@@ -1,0 +1,311 @@
+#include "mainform/MainForm.h"
+
+#include "datafile/DataFileReader.h"
+#include "mainform/ParameterText.h"
+#include "mainform/Sayings.h"
+#include "model/Session.h"
+#include "strategies/UnlimitedGrowth.h"
+#include "textio/NumberForms.h"
+#include "textio/RuntimeError.h"
+
+#include <random>
+
+namespace vorlex {
+
+namespace {
+
+struct ControlSetup {
+  const char* name;
+  const char* caption;
+  bool enabled;
+  bool visible = true;
+};
+
+// The controls as the form is created, before Form_Load touches them.
+constexpr ControlSetup kCreated[] = {
+    {"Frame1", "", true},
+    {"txtSimuT", "", true},
+    {"cmdKandT", "Density-dependent K?", false},
+    {"Command2", "OK", true},
+    {"cmdInputLTdata", "Read life table and vorlex data", false},
+    {"Frame4", "3.  Select control strategy ", false},
+    {"Option1", "No control", false},
+    {"Option2", "Control based on predefined schedule", false},
+    {"Option3", "Automatic control based on ET", false},
+    {"Option4", "Optimize beginning of control", false},
+    {"Option5", "Optimize control interval", false},
+    {"Option6", "Population growth with stage harvesting", false},
+    {"Option7", "Unlimited growth", false, false},
+    {"Option8", "Population growth under predation", false, false},
+    {"Option9", "Extra mortality", false, false},
+    {"cmdRun", "Run simulation", false},
+    {"Command4", "Show large graph", false},
+    {"Command16", "Carrying capacity", false},
+    {"Command5", "Not available yet", false},
+    {"cmdVIPOption1", "", false},
+    {"cmdVIPOption2", "", false},
+    {"cmdVIPOption3", "", false},
+    {"cmdVIPOption4", "", false},
+    {"cmdStageSamplingData", "Show sampling data ", false},
+    {"cmdStageProjection", "Predict emergence of y stage", false},
+    {"cmdProjectionAfterSampling", "Project growth using N(j) at time t", false},
+    {"Command1", "Quit", true},
+    {"Command3", "I1", false},
+    {"Command6", "I2", true},
+    {"Command7", "I3", true},
+    {"Command9", "I4", true},
+    {"Command14", "References", true},
+    {"Command15", "Quiz", true},
+    {"Command11", "Print this form", true},
+    {"Command24", "Show data format", true},
+    {"txtDatafile", "", true},
+    {"txtFecundity", "", true},
+    {"txtNetReproductiveRate", "", true},
+    {"txtIntrinsicRate", "", true},
+    {"txtMeanGenerationTime", "", true},
+    {"txtLambda", "", true},
+    {"txtLastAge", "", true},
+    {"MSChart1", "", false},
+    {"MSChart2", "", true},
+    {"lblProcedure", "", true},
+    {"lblSaying1", "", true},
+    {"lblSaying2", "", true},
+};
+
+constexpr const char* kProcedure = "General procedure: \n"
+                                   "1. Enter the simulation time.\n"
+                                   "2. Open the vorlex data file.\n"
+                                   "3. Select a management strategy.\n"
+                                   "4. Click on Step 6 to run the program.";
+
+void enable(Session& session, std::initializer_list<const char*> names, bool on = true) {
+  for (const char* name : names)
+    session.controls[name].enabled = on;
+}
+
+// BaseName cuts the last four characters, whatever they are; a shorter
+// name is an invalid call of the cut.
+std::string withoutLastFour(const std::string& path) {
+  if (path.size() < 4)
+    raise(ErrorCode::InvalidProcedureCall, "Data file name \"" + path + "\" is shorter than four characters");
+  return path.substr(0, path.size() - 4);
+}
+
+} // namespace
+
+MainForm::MainForm(Session& session) : session_(session) {
+  for (const ControlSetup& setup : kCreated)
+    session_.controls[setup.name] = ControlState{setup.enabled, setup.visible, setup.caption};
+}
+
+void MainForm::Form_Load() {
+  auto& controls = session_.controls;
+  controls["cmdVIPOption1"].caption = "Write N(t) at time t";
+  controls["cmdVIPOption2"].caption = "Write n(x,j) at time t";
+  controls["cmdVIPOption3"].caption = "Write C(t) at time t";
+  controls["cmdVIPOption4"].caption = "Write W(x,j) at time t";
+  enable(session_,
+         {"cmdVIPOption1", "cmdVIPOption2", "cmdVIPOption3", "cmdVIPOption4", "cmdStageSamplingData"});
+  for (const char* name : {"Option7", "Option8", "Option9"})
+    controls[name].visible = true;
+
+  std::random_device seed;
+  std::mt19937 draw(seed());
+  std::uniform_int_distribution<int> pick(0, 19);
+  do {
+    sayingShown[0] = pick(draw);
+    sayingShown[1] = pick(draw);
+  } while (sayingShown[0] == sayingShown[1]);
+  controls["lblSaying1"].caption = sayings()[sayingShown[0]];
+  controls["lblSaying2"].caption = sayings()[sayingShown[1]];
+
+  controls["lblProcedure"].caption = kProcedure;
+  session_.flags.WithCarryingCapacity = "No";
+  controls["MSChart1"].visible = false;
+  controls["cmdRun"].enabled = false;
+  controls["cmdRun"].visible = true;
+  enable(session_, {"Command3"});
+  enable(session_, {"Command4"}, false);
+
+  Model& m = session_.model();
+  controls["txtSimuT"].caption = "60";
+  m.SimTime = toInt16(numberEntry(controls["txtSimuT"].caption));
+  m.SimTimeNext = checkedInt16(m.SimTime + 1);
+  session_.flags.OptManagement = "OptNoControl";
+}
+
+void MainForm::Command2_Click() {
+  session_.flags.Physogastry = yesNo(session_.prompter().askYesNo("Physogastric reproduction?", "Attention"));
+  Model& m = session_.model();
+  m.SimTime = toInt16(numberEntry(session_.controls["txtSimuT"].caption));
+  m.SimTimeNext = checkedInt16(m.SimTime + 1);
+  enable(session_, {"cmdInputLTdata"});
+}
+
+void MainForm::cmdInputLTdata_Click() {
+  RunFlags& flags = session_.flags;
+  FileNames& names = session_.names;
+  Prompter& ask = session_.prompter();
+  Model& m = session_.model();
+
+  flags.LifeTableLoaded = "Yes";
+  flags.WithCxj = yesNo(ask.askYesNo("Data file with real consumption rate or predation rate C(x,j)?\n"
+                                     "\n"
+                                     "(Yes: with C(x,j)\n"
+                                     "(No: without C(x,j)",
+                                     "Attention"));
+  m.ReleaseDate =
+      toInt16(numberEntry(ask.askValue("What is the day that the initial population will be released?\n"
+                                       "(In general, it is day 0.)",
+                                       "Initial population released date?", "0")));
+  flags.OnlyTotalFigures = yesNo(ask.askYesNo(
+      "Do you need only the figure data files of total population size and log(total population size)?",
+      "Prepare only the data files of total population size and log(total)?"));
+  m.TimeUnit =
+      numberEntry(ask.askValue("Enter the time unit of your data (1 = 1 day, 0.5 = 0.5 day, 0.3 = 8h, "
+                               "0.25 = 6 h, 0.2 = 4.8 h or 0.16 = 4 h).\n"
+                               "(For any other time unit, enter 1.)",
+                               "Each time unit =?", "1"));
+
+  const std::string path = ask.chooseFileToOpen(kDataFileDialogTitle);
+  if (path.empty())
+    return;
+  names.DataFileName = path;
+  ControlState& shown = session_.controls["txtDatafile"];
+  shown.caption = path;
+  names.BaseName = withoutLastFour(path);
+
+  if (ask.askYesNo("Do you need the record of program flow?", "Do you need flow record?")) {
+    flags.FlowFlag = "Yes";
+    names.FlowFileName = names.BaseName + "_0_Flow.txt";
+    session_.files.openOutput(kFlowFile, names.FlowFileName);
+  } else {
+    flags.FlowFlag = "No";
+  }
+  readDataFile(session_, names.DataFileName);
+  showParameters();
+
+  names.ReportFileName = names.BaseName + "_0_output.txt";
+  session_.files.openOutput(kReportFile, names.ReportFileName);
+
+  enable(session_, {"cmdInputLTdata", "Command3"}, false);
+  enable(session_, {"Frame4", "Option1", "Option2", "Option3", "Option6", "Option7", "Option8", "Option9",
+                    "cmdStageSamplingData", "cmdStageProjection", "cmdProjectionAfterSampling", "MSChart1"});
+  enable(session_, {"Command2"}, false);
+}
+
+void MainForm::showParameters() {
+  const Model& m = session_.model();
+  auto& controls = session_.controls;
+  controls["txtIntrinsicRate"].caption = parameterText(m.IntrinsicRate, 4);
+  controls["txtFecundity"].caption = parameterText(m.MeanFecundity, 3);
+  controls["txtNetReproductiveRate"].caption = parameterText(m.NetReproductiveRate, 4);
+  controls["txtMeanGenerationTime"].caption = parameterText(m.GenerationTime, 2);
+  controls["txtLambda"].caption = parameterText(m.FiniteRate, 4);
+  controls["txtLastAge"].caption = digits(m.LastAgeOfFile);
+}
+
+void MainForm::chooseStrategy(const std::string& optManagement) {
+  session_.flags.OptManagement = optManagement;
+  enable(session_, {"Frame4"}, false);
+  enable(session_, {"cmdRun"});
+}
+
+void MainForm::Option1_Click() { chooseStrategy(optManagementOf(1)); }
+
+void MainForm::Option2_Click() {
+  RunFlags& flags = session_.flags;
+  flags.GrowthMode = "AUTOCONTROL";
+  flags.ControlFixedMark = "FIXED";
+  flags.ControlAutoMark = "AUTOCONTROL";
+  chooseStrategy(optManagementOf(2));
+}
+
+void MainForm::Option3_Click() {
+  RunFlags& flags = session_.flags;
+  flags.GrowthMode = "AUTOCONTROL";
+  flags.ControlAutoMark = "AUTOCONTROL";
+  // Only the first five controls and their first ten effective days.
+  Model& m = session_.model();
+  for (int e = 1; e <= 5; ++e)
+    for (int stage = 1; stage <= m.NrStage; ++stage)
+      for (int d = 0; d <= 10; ++d)
+        m.AutoControlSurvival(stage, d, e) = 1 - m.ControlMortality(stage, d, e);
+  chooseStrategy(optManagementOf(3));
+}
+
+void MainForm::Option4_Click() {
+  session_.flags.GrowthMode = "CONSTANT";
+  chooseStrategy(optManagementOf(4));
+}
+
+void MainForm::Option5_Click() {
+  session_.flags.GrowthMode = "VARIOUS";
+  chooseStrategy(optManagementOf(5));
+}
+
+void MainForm::Option6_Click() {
+  RunFlags& flags = session_.flags;
+  flags.GrowthMode = flags.ControlFixedMark = flags.ControlAutoMark = "Harvest";
+  chooseStrategy(optManagementOf(6));
+}
+
+void MainForm::Option7_Click() { chooseStrategy(optManagementOf(7)); }
+
+void MainForm::Option8_Click() {
+  RunFlags& flags = session_.flags;
+  flags.GrowthMode = flags.ControlFixedMark = flags.ControlAutoMark = "Predation";
+  chooseStrategy(optManagementOf(8));
+}
+
+void MainForm::Option9_Click() {
+  session_.flags.ExtraMortalityOption = "Yes";
+  chooseStrategy(optManagementOf(9));
+}
+
+void MainForm::chooseOption(int number) {
+  using Handler = void (MainForm::*)();
+  static constexpr Handler kHandlers[] = {
+      &MainForm::Option1_Click, &MainForm::Option2_Click, &MainForm::Option3_Click,
+      &MainForm::Option4_Click, &MainForm::Option5_Click, &MainForm::Option6_Click,
+      &MainForm::Option7_Click, &MainForm::Option8_Click, &MainForm::Option9_Click};
+  if (number < 1 || number > 9)
+    raise(ErrorCode::SubscriptOutOfRange, "Option" + std::to_string(number));
+  (this->*kHandlers[number - 1])();
+}
+
+const char* MainForm::optManagementOf(int option) {
+  static constexpr const char* kValues[] = {
+      "OptNoControl",          "OptPredefinedControl",       "OptAutoControlBasedOnET",
+      "OptOptimize1stControl", "OptOptimizeControlInterval", "OptGrowthWithHarvest",
+      "OptGrowthToLambda",     "OptGrowthUnderPredation",    "OptGrowthWithExtraMortality"};
+  if (option < 1 || option > 9)
+    raise(ErrorCode::SubscriptOutOfRange, "Option" + std::to_string(option));
+  return kValues[option - 1];
+}
+
+bool MainForm::hasDriver(const std::string& optManagement) {
+  return optManagement == "OptNoControl" || optManagement == "OptGrowthWithExtraMortality";
+}
+
+void MainForm::cmdRun_Click() {
+  session_.flow("In Private Sub cmdRun_Click()");
+  Model& m = session_.model();
+  m.SimTime = toInt16(numberEntry(session_.controls["txtSimuT"].caption));
+  enable(session_, {"cmdInputLTdata"}, false);
+  session_.controls["MSChart2"].visible = false;
+  session_.controls["MSChart1"].visible = true;
+
+  const std::string& strategy = session_.flags.OptManagement;
+  if (strategy == "OptNoControl" || strategy == "OptGrowthWithExtraMortality")
+    UnlimitedGrowth(session_);
+  else
+    raise(ErrorCode::InvalidProcedureCall, "The strategy " + strategy + " is not available in this build");
+
+  session_.files.close(kReportFile);
+
+  enable(session_, {"Command4", "Command16", "Command3"});
+  enable(session_, {"cmdRun", "Frame4", "cmdInputLTdata"}, false);
+}
+
+} // namespace vorlex

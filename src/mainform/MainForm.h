@@ -1,0 +1,58 @@
+#pragma once
+
+#include <string>
+
+namespace vorlex {
+
+class Session;
+
+/// The main form without its widgets: what each control shows and whether
+/// it can be clicked (kept in session.controls by control name), and the
+/// handlers of the steps a user goes through: simulation time, data file,
+/// strategy, run. The desktop program and the command line both drive it.
+///
+/// A text box keeps its text as its caption: control("txtSimuT").caption.
+class MainForm {
+public:
+  explicit MainForm(Session& session);
+
+  void Form_Load();
+  /// OK beside the simulation time: the physogastry question, the time.
+  void Command2_Click();
+  /// Reads the life table and its settings; nothing happens past the file
+  /// dialog when it is cancelled.
+  void cmdInputLTdata_Click();
+  void Option1_Click();
+  void Option2_Click();
+  void Option3_Click();
+  void Option4_Click();
+  void Option5_Click();
+  void Option6_Click();
+  void Option7_Click();
+  void Option8_Click();
+  void Option9_Click();
+  /// Clicks OptionN, N = 1..9.
+  void chooseOption(int number);
+  /// Runs the chosen strategy, closes the report, writes the death files.
+  void cmdRun_Click();
+
+  /// Whether this build has the driver that cmdRun runs for a strategy
+  /// value of OptManagement.
+  static bool hasDriver(const std::string& optManagement);
+  /// The strategy value OptionN stores, N = 1..9.
+  static const char* optManagementOf(int option);
+
+  /// The title of the file dialog of the load.
+  static constexpr const char* kDataFileDialogTitle = "Open the vorlex data file";
+
+  /// The two sayings on show, indices into sayings().
+  int sayingShown[2] = {0, 1};
+
+private:
+  void chooseStrategy(const std::string& optManagement);
+  void showParameters();
+
+  Session& session_;
+};
+
+} // namespace vorlex
