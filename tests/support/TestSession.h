@@ -36,7 +36,9 @@ struct TestSession {
   }
 };
 
-inline std::string dataPath(const std::string& name) { return std::string(VORLEX_TEST_DATA_DIR) + "/" + name; }
+inline std::string dataPath(const std::string& name) {
+  return std::string(VORLEX_TEST_DATA_DIR) + "/" + name;
+}
 inline std::string examplePath(const std::string& name) {
   return std::string(VORLEX_SOURCE_DIR) + "/examples/" + name;
 }
