@@ -1,0 +1,60 @@
+#include "cli/AnswerPrompter.h"
+#include "support/RunFolder.h"
+
+#include <gtest/gtest.h>
+
+#include <fstream>
+#include <sstream>
+
+namespace vorlex::cli {
+namespace {
+
+TEST(AnswerPrompter, TheValueFollowsTheLastEqualsSign) {
+  std::ostringstream out;
+  AnswerPrompter prompter(out);
+  prompter.addAnswer("Each time unit =?=0.5");
+  EXPECT_EQ(prompter.askValue("Enter the time unit\n(more)", "Each time unit =?", "1"), "0.5");
+  EXPECT_EQ(out.str(), "[Each time unit =?] Enter the time unit => 0.5\n");
+}
+
+TEST(AnswerPrompter, RepeatedTitlesTakeTheirAnswersInOrderThenDefaults) {
+  std::ostringstream out;
+  AnswerPrompter prompter(out);
+  prompter.addAnswer("Attention=Yes");
+  prompter.addAnswer("Attention=no");
+  prompter.addAnswer("Box=");
+  EXPECT_TRUE(prompter.askYesNo("first", "Attention"));
+  EXPECT_FALSE(prompter.askYesNo("second", "Attention"));
+  EXPECT_FALSE(prompter.askYesNo("third", "Attention"));
+  EXPECT_EQ(prompter.askValue("p", "Box", "7"), ""); // an empty answer is a Cancel
+  EXPECT_EQ(prompter.askValue("p", "Box", "7"), "7");
+  EXPECT_EQ(prompter.chooseFileToOpen("Open"), "");
+  EXPECT_TRUE(prompter.unusedAnswers().empty());
+  EXPECT_NE(out.str().find("[Attention] third => No (default)\n"), std::string::npos);
+  EXPECT_NE(out.str().find("[Box] p => (Cancel)\n"), std::string::npos);
+}
+
+TEST(AnswerPrompter, AnswersFileSkipsCommentsAndUnusedAnswersAreReported) {
+  vorlex::testing::RunFolder folder("answers");
+  const std::string path = folder.path("answers.txt");
+  std::ofstream(path)
+      << "# dialogue of a test\r\n\r\n  # indented comment\nLower fecundity=0.25\r\nNever=1\n";
+  std::ostringstream out;
+  AnswerPrompter prompter(out);
+  prompter.addAnswersFromFile(path);
+  EXPECT_EQ(prompter.askValue("p", "Lower fecundity", "0.3"), "0.25");
+  EXPECT_EQ(prompter.unusedAnswers(), std::vector<std::string>{"Never"});
+}
+
+TEST(AnswerPrompter, MalformedAnswersAreRefused) {
+  std::ostringstream out;
+  AnswerPrompter prompter(out);
+  EXPECT_THROW(prompter.addAnswer("no equals sign"), AnswerError);
+  EXPECT_THROW(prompter.addAnswer("=value without title"), AnswerError);
+  EXPECT_THROW(prompter.addAnswersFromFile("/nonexistent/answers.txt"), AnswerError);
+  prompter.addAnswer("Attention=perhaps");
+  EXPECT_THROW(prompter.askYesNo("p", "Attention"), AnswerError);
+}
+
+} // namespace
+} // namespace vorlex::cli
