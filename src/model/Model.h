@@ -202,6 +202,25 @@ struct Model {
   Table2<double> PhysoWeakSize{5, kLastDaySlot};
   /// Number of the run in a series of runs; 0 for a single projection.
   i16 SeriesIndex = 0;
+
+  // Report pages and plots.
+  /// Number of controls the automatic rule has taken; 0 under every other
+  /// strategy. The title page lists their days, AutoControlDay(1..).
+  i16 NrAutoControl = 0;
+  /// The age-stage table of the page being printed, and its title line.
+  Table2<double> ReportMatrix{kLastAgeSlot, kLastStageSlot};
+  std::string ReportMatrixTitle;
+  /// The frame line of a character plot: "+" at columns 1, 6, ..., 56.
+  std::string PlotScale = "+----+----+----+----+----+----+----+----+----+----+----+";
+  /// The plot row being built, where its next mark goes (0 is column 1),
+  /// the mark, and how many marks stand in each column 1..55 of the row.
+  std::string PlotLine;
+  double PlotPos = 0;
+  std::string PlotMark;
+  Table1<double> PlotHits{kLastDaySlot};
+  /// Running number of the plot pages; never reset, so a further run of the
+  /// same session goes on counting.
+  double FigNumber = 0;
 };
 
 } // namespace vorlex

@@ -86,8 +86,8 @@ TEST(NumberFormsDigits, FifteenDigitNumbersRoundTripExactly) {
     const int count = digitCount(random);
     for (int k = 1; k < count; ++k)
       mantissa += static_cast<char>('0' + digit(random));
-    const std::string source = (i % 2 ? "-" : "") + mantissa.substr(0, 1) + "." + mantissa.substr(1) + "e" +
-                               std::to_string(exponent(random));
+    const std::string source = std::string(i % 2 ? "-" : "") + mantissa.substr(0, 1) + "." +
+                               mantissa.substr(1) + "e" + std::to_string(exponent(random));
     const double value = std::strtod(source.c_str(), nullptr);
     const std::string text = digits(value);
     ASSERT_EQ(numberEntry(text), value) << source << " written as " << text;
