@@ -4,6 +4,8 @@
 #include "engine/PopulationGrowth.h"
 #include "model/InitialCalculation.h"
 #include "model/Session.h"
+#include "reports/CharacterPlots.h"
+#include "reports/TitlePage.h"
 
 namespace vorlex {
 
@@ -26,7 +28,9 @@ void UnlimitedGrowth(Session& session) {
     askExtraMortality(session);
 
   VorlexBSetStageSurvivalRto1(session);
+  VorlexCPrintTitlePageAndBasicInfo(session);
   VorlexDPopulationGrowth(session);
+  VorlexEPrintResults(session);
   session.files.close(kReportFile);
   WriteDataFileForVorlexA(session);
   WriteMatrixNforTimeT(session);
