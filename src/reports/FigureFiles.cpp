@@ -6,6 +6,12 @@
 
 namespace vorlex {
 
+namespace {
+
+constexpr std::size_t kLongestEndAge = 10;
+
+} // namespace
+
 void SaveGraphicData(Session& session) {
   session.flow("In Public Sub SaveGraphicData");
   const bool allFigures = session.flags.OnlyTotalFigures != "Yes";
@@ -46,6 +52,32 @@ void SaveGraphDataGosub1650OpenFile(Session& session) {
   }
   m.FigureFileName = session.names.BaseName + "-" + m.FigureSuffix + ".txt";
   session.files.openOutput(figures::kFigureFile, m.FigureFileName);
+}
+
+void Life04Gosub3610(Session& session) {
+  session.flow("In Public Sub Life04Gosub3610 -------- Open output data file #1");
+  session.files.openOutput(kWorkFile, session.names.BaseName + session.model().FigureFileEnd);
+}
+
+void Life04Gosub3750(Session& session) {
+  session.flow("In Public Sub Life04Gosub3750 ---------- Write stage names ----------");
+  const Model& m = session.model();
+  OutputFile& out = session.files.output(kWorkFile);
+  out.printOpen("Age,");
+  for (int i = 1; i <= m.NrStage; ++i)
+    out.printOpen(m.StageName(i), ",");
+  // The entry behind the last stage: empty, so the heading ends with a
+  // comma; with 12 stages it lies outside the table.
+  out.print(m.StageName(m.NrStage + 1));
+}
+
+void Life04Gosub3650(Session& session) {
+  session.flow("In Public Sub Life04Gosub3650 -------- Write end data of figure files");
+  const Model& m = session.model();
+  std::string line = stripped(checkedInt16(m.LastAge + 1)).substr(0, kLongestEndAge) + ",";
+  for (int j = 1; j <= m.NrStage; ++j)
+    line += " 0,";
+  session.files.output(kWorkFile).print(line + " 0");
 }
 
 namespace figures {

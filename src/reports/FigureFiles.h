@@ -16,4 +16,13 @@ void SaveGraphicData(Session& session);
 /// replacing a file of that name, and keeps the path in FigureFileName.
 void SaveGraphDataGosub1650OpenFile(Session& session);
 
+/// Opens BaseName + FigureFileEnd as matrix file (number 1).
+void Life04Gosub3610(Session& session);
+/// Heading of a matrix file: "Age," and each stage name with a comma behind.
+/// A table of 12 stages stops here with Subscript out of range.
+void Life04Gosub3750(Session& session);
+/// End line of a matrix file: LastAge + 1, then a 0 for each stage and one
+/// more, e.g. "100, 0, 0, 0, 0".
+void Life04Gosub3650(Session& session);
+
 } // namespace vorlex

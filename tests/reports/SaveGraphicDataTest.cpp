@@ -1,3 +1,4 @@
+#include "reports/DeathFiles.h"
 #include "reports/FigureFiles.h"
 
 #include "support/FigureRun.h"
@@ -47,6 +48,16 @@ protected:
     m.FiniteRate = 10;
   }
   void save() { SaveGraphicData(run.session); }
+  void deathFiles() {
+    PrintCxj(run.session);
+    PrintDeathRatexj(run.session);
+    PrintStageDeath(run.session);
+    PrintTotalDeath(run.session);
+    PrintLogStageDeath(run.session);
+    PrintCumuStageDeath(run.session);
+    PrintLogCumuStageDeath(run.session);
+    PrintTotalDifference(run.session);
+  }
 };
 
 TEST_F(SaveGraphicDataRun, WritesItsFilesInAFixedOrder) {
@@ -83,11 +94,12 @@ TEST_F(SaveGraphicDataRun, ConsumptionDataDecideTheCostAndConsumptionFiles) {
   }
 }
 
-TEST_F(SaveGraphicDataRun, OnlyTotalFiguresGivesThreeFiles) {
+TEST_F(SaveGraphicDataRun, OnlyTotalFiguresGivesThreeFilesAndNoDeathFiles) {
   flags.OnlyTotalFigures = "Yes";
   flags.WithCxj = "Yes";
   run.recordFlow();
   save();
+  deathFiles();
   EXPECT_EQ(run.files(),
             fileNames({"2A-Fig-Total size", "2C-Fig-Total size plus 1", "2B-Fig-log Total size"}));
   EXPECT_EQ(run.flow(), "In Public Sub SaveGraphicData\r\nIn Public Sub SaveGraphDataGosub1650OpenFile\r\n");
@@ -97,9 +109,11 @@ TEST_F(SaveGraphicDataRun, OnlyTotalFiguresGivesThreeFiles) {
 TEST_F(SaveGraphicDataRun, TheFlowRecordNamesTheOpeningOnceInAProgramRun) {
   run.recordFlow();
   save();
+  PrintStageDeath(run.session);
   save();
   EXPECT_EQ(run.flow(), "In Public Sub SaveGraphicData\r\n"
                         "In Public Sub SaveGraphDataGosub1650OpenFile\r\n"
+                        "In Public Sub PrintStageDeath\r\n"
                         "In Public Sub SaveGraphicData\r\n");
 }
 
