@@ -4,6 +4,7 @@
 #include "mainform/ParameterText.h"
 #include "mainform/Sayings.h"
 #include "model/Session.h"
+#include "reports/DeathFiles.h"
 #include "strategies/UnlimitedGrowth.h"
 #include "textio/NumberForms.h"
 #include "textio/RuntimeError.h"
@@ -303,6 +304,12 @@ void MainForm::cmdRun_Click() {
     raise(ErrorCode::InvalidProcedureCall, "The strategy " + strategy + " is not available in this build");
 
   session_.files.close(kReportFile);
+  PrintStageDeath(session_);
+  PrintTotalDeath(session_);
+  PrintLogStageDeath(session_);
+  PrintCumuStageDeath(session_);
+  PrintLogCumuStageDeath(session_);
+  PrintTotalDifference(session_);
 
   enable(session_, {"Command4", "Command16", "Command3"});
   enable(session_, {"cmdRun", "Frame4", "cmdInputLTdata"}, false);

@@ -221,6 +221,28 @@ struct Model {
   /// Running number of the plot pages; never reset, so a further run of the
   /// same session goes on counting.
   double FigNumber = 0;
+
+  // Figure files and the total-predation file.
+  /// Name part of the figure file being opened: BaseName + "-" + FigureSuffix + ".txt".
+  std::string FigureSuffix;
+  /// The whole ending of a matrix file, "-" and ".txt" included, behind BaseName.
+  std::string FigureFileEnd;
+  /// Path of the figure file opened last.
+  std::string FigureFileName;
+  /// Set once the opening of a figure file is in the flow record; it is
+  /// named there the first time only in a program run.
+  bool FigureOpenInFlow = false;
+  /// Days of zero predation ahead of the total-predation file, as entered.
+  i16 PredationLag = 0;
+  /// What the total-predation file stands for, as entered; part of its name.
+  std::string PredationDescription;
+  /// Factor on the predation read from a total-predation file; 0 until one
+  /// is read. Above 0 it shows in the titles of the total size files.
+  double PredationCoef = 0;
+  /// Rows of a total-predation file written with a lag.
+  Table1<double> LaggedTime{kLastDaySlot};
+  Table1<double> LaggedConsumption{kLastDaySlot};
+  Table1<double> LaggedLogConsumption{kLastDaySlot};
 };
 
 } // namespace vorlex

@@ -5,6 +5,8 @@
 #include "model/InitialCalculation.h"
 #include "model/Session.h"
 #include "reports/CharacterPlots.h"
+#include "reports/DeathFiles.h"
+#include "reports/FigureFiles.h"
 #include "reports/TitlePage.h"
 
 namespace vorlex {
@@ -34,6 +36,9 @@ void UnlimitedGrowth(Session& session) {
   session.files.close(kReportFile);
   WriteDataFileForVorlexA(session);
   WriteMatrixNforTimeT(session);
+  PrintCxj(session);
+  PrintDeathRatexj(session);
+  SaveGraphicData(session);
   session.controls["Command4"].enabled = true;
 }
 
