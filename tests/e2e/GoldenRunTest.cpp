@@ -1,0 +1,128 @@
+// Whole sessions run through the command line, every output file compared
+// with a reviewed copy in tests/data/golden/<case>/. After a deliberate
+// change, run the tests with VORLEX_UPDATE_GOLDEN=1 to rewrite the copies,
+// then review the difference before committing it.
+#include "support/CliRun.h"
+#include "support/RunFolder.h"
+
+#include <gtest/gtest.h>
+
+#include <algorithm>
+#include <cstdlib>
+#include <filesystem>
+#include <fstream>
+#include <vector>
+
+namespace vorlex::testing {
+namespace {
+
+namespace fs = std::filesystem;
+
+struct GoldenCase {
+  std::string name;
+  std::string dataFile; // in tests/data or examples
+  std::string strategy;
+  int simTime;
+  std::vector<std::string> answers;
+};
+
+std::ostream& operator<<(std::ostream& out, const GoldenCase& c) { return out << c.name; }
+
+std::string sourceOf(const std::string& dataFile) {
+  const std::string inTests = dataPath(dataFile);
+  return fs::exists(inTests) ? inTests : examplePath(dataFile);
+}
+
+std::vector<std::string> filesIn(const fs::path& dir) {
+  std::vector<std::string> names;
+  for (const auto& entry : fs::directory_iterator(dir))
+    names.push_back(entry.path().filename().string());
+  std::sort(names.begin(), names.end());
+  return names;
+}
+
+// The command line's own output, with the run's folder made neutral.
+std::string neutral(std::string text, const std::string& folder) {
+  for (auto at = text.find(folder); at != std::string::npos; at = text.find(folder))
+    text.replace(at, folder.size(), "RUN");
+  return text;
+}
+
+class GoldenRun : public ::testing::TestWithParam<GoldenCase> {};
+
+TEST_P(GoldenRun, EveryOutputFileMatchesItsReviewedCopy) {
+  const GoldenCase& c = GetParam();
+  RunFolder folder("golden-" + c.name);
+  const std::string dataFile = folder.copy(sourceOf(c.dataFile), c.dataFile);
+  std::string arguments = "run " + quoted(dataFile) + " --strategy " + c.strategy + " --sim-time " +
+                          std::to_string(c.simTime) + " --date 2026-11-21";
+  for (const std::string& answer : c.answers)
+    arguments += " --answer " + quoted(answer);
+  const CliResult result = runCli(arguments, folder.dir().string());
+  ASSERT_EQ(result.status, 0) << result.err;
+  EXPECT_EQ(result.err, "");
+  EXPECT_EQ(fileText(dataFile), fileText(sourceOf(c.dataFile))) << "the data file is never written";
+  std::ofstream(folder.path("stdout.txt"), std::ios::binary) << neutral(result.out, folder.dir().string());
+  fs::remove(dataFile);
+
+  const fs::path golden = fs::path(VORLEX_TEST_DATA_DIR) / "golden" / c.name;
+  if (std::getenv("VORLEX_UPDATE_GOLDEN")) {
+    fs::remove_all(golden);
+    fs::create_directories(golden);
+    for (const auto& name : filesIn(folder.dir()))
+      fs::copy_file(folder.dir() / name, golden / name);
+    GTEST_SKIP() << "rewrote " << golden;
+  }
+  ASSERT_TRUE(fs::exists(golden)) << "no reviewed copies in " << golden;
+  const auto written = filesIn(folder.dir());
+  EXPECT_EQ(written, filesIn(golden));
+  for (const auto& name : written) {
+    if (!fs::exists(golden / name))
+      continue;
+    EXPECT_EQ(fileText(folder.path(name)), fileText((golden / name).string())) << c.name << ": " << name;
+  }
+}
+
+const GoldenCase kCases[] = {
+    {"moth-no-control", "moth.txt", "no-control", 30, {}},
+    {"moth-cxj-lag",
+     "moth-cxj.txt",
+     "no-control",
+     20,
+     {"Attention=No", "Attention=Yes", "Add time to total predation data.=3",
+      "Predator? Parasitoid? Pest?=moths eaten"}},
+    {"moth-releases-late", "moth-releases.txt", "no-control", 25, {"Initial population released date?=4"}},
+    {"moth-physogastry-half-day",
+     "moth.txt",
+     "no-control",
+     20,
+     {"Attention=Yes", "Attention=No", "Each time unit =?=0.5", "Do you need flow record?=Yes"}},
+    {"moth-extra-mortality",
+     "moth.txt",
+     "extra-mortality",
+     40,
+     {"Overwinter stage=3", "Date of overwinter mortality=20", "Overwinter mortality=0.5",
+      "First extra mortality to d(x,j) of a specific stage=2",
+      "Date after that there will be extra mortality to matrix D=5",
+      "Date after that there will be no extra mortality to matrix D=15",
+      "First extra mortality to matrix D=0.3",
+      "Is there another extra mortality to d(x,j) of a specific stage?=3",
+      "Date after that there will be the second extra mortality=25",
+      "Date after that the second extra mortality will stop.=30", "Enter the second extra mortality=0.5",
+      "Date after that fecundity will be lower=30", "Date after that fecundity will be normal=35",
+      "Lower fecundity=0.3"}},
+    {"tiny3-only-totals",
+     "tiny3.txt",
+     "no-control",
+     5,
+     {"Prepare only the data files of total population size and log(total)?=Yes"}},
+};
+
+INSTANTIATE_TEST_SUITE_P(Sessions, GoldenRun, ::testing::ValuesIn(kCases), [](const auto& param) {
+  std::string name = param.param.name;
+  std::replace(name.begin(), name.end(), '-', '_');
+  return name;
+});
+
+} // namespace
+} // namespace vorlex::testing
