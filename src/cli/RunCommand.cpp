@@ -50,9 +50,6 @@ const Strategy* findStrategy(const std::string& name) {
   return found == std::end(kStrategies) ? nullptr : found;
 }
 
-// The last day of the series: the day the population died out, or SimTime.
-int lastDayReached(const Model& m) { return m.Day <= m.SimTime ? m.Day : m.SimTime; }
-
 } // namespace
 
 int runCommand(const std::vector<std::string>& args, std::ostream& out, std::ostream& err) {
@@ -117,7 +114,7 @@ int runCommand(const std::vector<std::string>& args, std::ostream& out, std::ost
   session.files.closeAll();
 
   const Model& m = session.model();
-  const int lastDay = lastDayReached(m);
+  const int lastDay = session.lastDayReached;
   out << "Strategy: " << strategy->name << " (Option" << strategy->option << ", " << optManagement << ")\n"
       << "Last day reached: " << lastDay << '\n'
       << "Total size on day " << lastDay << ": " << digits(m.TotalSize(lastDay)) << '\n'

@@ -67,6 +67,9 @@ public:
   /// The date of the run as the report prints it; today unless the front
   /// end fixes it (reproducible reports).
   std::string shortDate = systemShortDate();
+  /// The last day of the series a run filled: SimTime, or the day the
+  /// population died out; -1 before a run.
+  int lastDayReached = -1;
 
   bool flowOn() const { return flags.FlowFlag == "Yes"; }
   /// Writes a print line to the flow record when it is on.

@@ -32,6 +32,7 @@ void UnlimitedGrowth(Session& session) {
   VorlexBSetStageSurvivalRto1(session);
   VorlexCPrintTitlePageAndBasicInfo(session);
   VorlexDPopulationGrowth(session);
+  session.lastDayReached = m.Day <= m.SimTime ? m.Day : m.SimTime;
   VorlexEPrintResults(session);
   session.files.close(kReportFile);
   WriteDataFileForVorlexA(session);

@@ -1,0 +1,66 @@
+#include "support/CliRun.h"
+#include "support/RunFolder.h"
+
+#include <gtest/gtest.h>
+
+#include <filesystem>
+#include <fstream>
+
+namespace vorlex::testing {
+namespace {
+
+namespace fs = std::filesystem;
+
+std::size_t filesIn(const fs::path& dir) {
+  return static_cast<std::size_t>(std::distance(fs::directory_iterator(dir), fs::directory_iterator()));
+}
+
+TEST(RunCommand, AStrategyNotInThisBuildIsRefusedBeforeAnythingIsWritten) {
+  RunFolder folder("run-refused");
+  const std::string data = folder.copy(dataPath("tiny3.txt"), "tiny3.txt");
+  const CliResult result = runCli("run " + quoted(data) + " --strategy auto-et", folder.dir().string());
+  EXPECT_EQ(result.status, 2);
+  EXPECT_EQ(result.out, "");
+  EXPECT_NE(result.err.find("'auto-et' (OptAutoControlBasedOnET) is not available"), std::string::npos);
+  EXPECT_EQ(filesIn(folder.dir()), 1u);
+}
+
+TEST(RunCommand, ExtinctionIsToldAndTheRunEndsNormally) {
+  RunFolder folder("run-extinct");
+  // Without fecundity the last individuals are gone after age 3.
+  const std::string barren = replaced(fileText(dataPath("tiny3.txt")), "0,4,2", "0,0,0");
+  ASSERT_FALSE(barren.empty());
+  const std::string data = folder.path("barren.txt");
+  std::ofstream(data, std::ios::binary) << barren;
+  const CliResult result = runCli("run " + quoted(data) + " --sim-time 10", folder.dir().string());
+  EXPECT_EQ(result.status, 0) << result.err;
+  EXPECT_NE(result.out.find("[Population size=0] Simulation time = 10. At t= 4. Population size=0 (D)! "
+                            "Stop simulation!\n"),
+            std::string::npos)
+      << result.out;
+  EXPECT_NE(result.out.find("Last day reached: 4\nTotal size on day 4: 0\n"), std::string::npos)
+      << result.out;
+  EXPECT_TRUE(fs::exists(folder.path("barren-2A-Fig-Total size.txt")));
+}
+
+TEST(RunCommand, ARunTimeErrorStopsWithItsMessageAndPlace) {
+  RunFolder folder("run-broken");
+  const std::string text = fileText(dataPath("tiny3.txt"));
+  const std::string data = folder.path("cut.txt");
+  std::ofstream(data, std::ios::binary) << text.substr(0, text.find("\"Mean fecundity\""));
+  const CliResult result = runCli("run " + quoted(data), folder.dir().string());
+  EXPECT_EQ(result.status, 1);
+  EXPECT_NE(result.err.find("vorlex: Run-time error '62': Input past end of file\nData file: " + data),
+            std::string::npos)
+      << result.err;
+}
+
+TEST(RunCommand, AnUnusableCommandLineExitsWithTwo) {
+  RunFolder folder("run-usage");
+  EXPECT_EQ(runCli("run", folder.dir().string()).status, 2);
+  EXPECT_EQ(runCli("run x.txt --strategy sideways", folder.dir().string()).status, 2);
+  EXPECT_EQ(runCli("run x.txt --answer novalue", folder.dir().string()).status, 2);
+}
+
+} // namespace
+} // namespace vorlex::testing
