@@ -49,6 +49,8 @@ void BM_WholeRunOfTheExample(benchmark::State& state) {
   state.counters["files"] = static_cast<double>(files);
   fs::remove_all(dir);
 }
-BENCHMARK(BM_WholeRunOfTheExample)->Arg(60)->Arg(1004)->Unit(benchmark::kMillisecond);
+// 1003 is the longest whole run: at 1004 the total plot reads DailyWID one
+// past the last day the projection leaves, beyond the tables.
+BENCHMARK(BM_WholeRunOfTheExample)->Arg(60)->Arg(1003)->Unit(benchmark::kMillisecond);
 
 } // namespace
