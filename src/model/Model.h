@@ -221,6 +221,19 @@ struct Model {
   /// Running number of the plot pages; never reset, so a further run of the
   /// same session goes on counting.
   double FigNumber = 0;
+
+  // Chart series not yet filled elsewhere.
+  /// Total predation of each day as read from a total-predation file and
+  /// scaled by the predation coefficient; the engine's predation series.
+  Table1<double> PredationTotal{kLastDaySlot};
+  /// log10(predation + 1) of each day, the file's third column, unscaled.
+  Table1<double> PredationLog{kLastDaySlot};
+  /// Days of zero predation put ahead of the total-predation file, as entered.
+  i16 PredationLag = 0;
+  /// Time and log10(consumption + 1) of the rows of a total-predation file
+  /// written with a lag.
+  Table1<double> LaggedTime{kLastDaySlot};
+  Table1<double> LaggedLogConsumption{kLastDaySlot};
 };
 
 } // namespace vorlex
