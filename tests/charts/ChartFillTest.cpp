@@ -1,6 +1,7 @@
 #include "ChartFixture.h"
 
 #include <cmath>
+#include <vector>
 
 namespace vorlex::testing {
 namespace {
@@ -133,6 +134,29 @@ TEST_F(ChartTest, ShowingAChartHidesTheHintLabels) {
   for (const char* label : kChartHintLabels)
     EXPECT_FALSE(session.controls[label].visible);
   EXPECT_FALSE(session.controls[kLargeChart].visible);
+}
+
+// Day or age of each row: form A from day 0, form B from day 1, form G by
+// age, the predation form from day 0; with a time unit of 1 that is x.
+TEST_F(ChartTest, RowsRunOverTheDaysOrAgesOfTheirForm) {
+  struct Case {
+    ShowRoutine show;
+    const char* name;
+    std::vector<double> x;
+  };
+  const std::vector<Case> cases{
+      {ShowStageStructure, "A", {0, 1}},
+      {ShowStageDeath, "B", {1}},
+      {ShowSij, "G", {0, 1, 2, 3}},
+      {ShowTotalDeathDuetoPredation, "P", {0}},
+  };
+  for (const Case& c : cases) {
+    SCOPED_TRACE(c.name);
+    const ChartContent chart = c.show(session);
+    for (int n = 1; n <= chart.seriesCount(); ++n)
+      for (int row = 1; row <= chart.rowCount(); ++row)
+        EXPECT_EQ(chart.x(n, row), c.x[static_cast<std::size_t>(row - 1)]);
+  }
 }
 
 } // namespace
