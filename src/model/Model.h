@@ -243,6 +243,13 @@ struct Model {
   Table1<double> LaggedTime{kLastDaySlot};
   Table1<double> LaggedConsumption{kLastDaySlot};
   Table1<double> LaggedLogConsumption{kLastDaySlot};
+
+  // Predation series read from a total-predation file.
+  /// Total predation of each day as read from a total-predation file and
+  /// scaled by the predation coefficient; the engine's predation series.
+  Table1<double> PredationTotal{kLastDaySlot};
+  /// log10(predation + 1) of each day, the file's third column, unscaled.
+  Table1<double> PredationLog{kLastDaySlot};
 };
 
 } // namespace vorlex

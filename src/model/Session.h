@@ -1,5 +1,6 @@
 #pragma once
 
+#include "charts/ChartContent.h"
 #include "model/Model.h"
 #include "textio/FileTable.h"
 #include "textio/Prompter.h"
@@ -70,6 +71,8 @@ public:
   /// The last day of the series a run filled: SimTime, or the day the
   /// population died out; -1 before a run.
   int lastDayReached = -1;
+  /// What the chart of the main form shows.
+  ChartContent mainChart;
 
   bool flowOn() const { return flags.FlowFlag == "Yes"; }
   /// Writes a print line to the flow record when it is on.

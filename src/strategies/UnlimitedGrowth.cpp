@@ -1,5 +1,6 @@
 #include "strategies/UnlimitedGrowth.h"
 
+#include "charts/ChartFamily.h"
 #include "datafile/DataFileWriter.h"
 #include "engine/PopulationGrowth.h"
 #include "model/InitialCalculation.h"
@@ -39,6 +40,7 @@ void UnlimitedGrowth(Session& session) {
   WriteMatrixNforTimeT(session);
   PrintCxj(session);
   PrintDeathRatexj(session);
+  session.mainChart = m.ReleaseDate != 0 ? ShowStageStructureLateRelease(session) : ShowStageStructure(session);
   SaveGraphicData(session);
   session.controls["Command4"].enabled = true;
 }

@@ -84,6 +84,8 @@ TEST_F(MainFormSession, StepsUnlockOneAnotherInOrder) {
   EXPECT_TRUE(session.controls["MSChart1"].visible);
   EXPECT_FALSE(session.controls["MSChart2"].visible);
   EXPECT_EQ(session.controls["Command5"].caption, "File 0-T- 3 for 1,2,3,8 is ready");
+  EXPECT_EQ(session.mainChart.title, "Stage size");
+  EXPECT_EQ(session.mainChart.rowCount(), 4); // days 0..3
   EXPECT_FALSE(session.files.isOpen(kReportFile));
 }
 
@@ -231,6 +233,18 @@ TEST_F(MainFormSession, TheTimeInTheBoxAtRunWins) {
   form.cmdRun_Click();
   EXPECT_EQ(m.SimTime, 5);
   EXPECT_TRUE(fs::exists(folder.path("tiny3-0-T- 5.txt")));
+}
+
+TEST_F(MainFormSession, ALateReleaseShowsItsOwnStageChart) {
+  offer("tiny3.txt", "tiny3.txt");
+  prompts.answer("Initial population released date?=2");
+  form.Form_Load();
+  session.controls["txtSimuT"].caption = "3";
+  form.Command2_Click();
+  form.cmdInputLTdata_Click();
+  form.Option1_Click();
+  form.cmdRun_Click();
+  EXPECT_EQ(session.mainChart.title, "Stage size (release date: 2)");
 }
 
 TEST_F(MainFormSession, AStrategyWithoutDriverStopsTheRun) {
