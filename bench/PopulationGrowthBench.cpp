@@ -3,6 +3,7 @@
 #include "model/InitialCalculation.h"
 #include "model/LifeTable.h"
 #include "model/Session.h"
+#include "textio/SilentPrompter.h"
 
 #include <benchmark/benchmark.h>
 
@@ -10,15 +11,6 @@
 #include <string>
 
 namespace {
-
-class SilentPrompts : public vorlex::Prompter {
-public:
-  std::string askValue(const std::string&, const std::string&, const std::string& d) override { return d; }
-  bool askYesNo(const std::string&, const std::string&) override { return false; }
-  void inform(const std::string&, const std::string&) override {}
-  std::string chooseFileToOpen(const std::string&) override { return {}; }
-  std::string chooseFileToSave(const std::string&) override { return {}; }
-};
 
 // Ten immature stages, a female and a male, each with rates at every age up
 // to 1004, so that the whole matrix fills; females lay from age 100. The
@@ -50,7 +42,7 @@ void largestTable(vorlex::Model& m) {
 }
 
 void runProjection(benchmark::State& state, bool underCarryingCapacity) {
-  SilentPrompts prompts;
+  vorlex::SilentPrompter prompts;
   vorlex::Session session(prompts);
   vorlex::Model& m = session.model();
   largestTable(m);

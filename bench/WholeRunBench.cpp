@@ -2,6 +2,7 @@
 // control, write the report and every figure, death, matrix and derived file.
 #include "mainform/MainForm.h"
 #include "model/Session.h"
+#include "textio/SilentPrompter.h"
 
 #include <benchmark/benchmark.h>
 
@@ -13,14 +14,10 @@ namespace {
 namespace fs = std::filesystem;
 
 // Takes every default and opens the one data file.
-class DefaultAnswers : public vorlex::Prompter {
+class DefaultAnswers : public vorlex::SilentPrompter {
 public:
   explicit DefaultAnswers(std::string dataFile) : dataFile_(std::move(dataFile)) {}
-  std::string askValue(const std::string&, const std::string&, const std::string& d) override { return d; }
-  bool askYesNo(const std::string&, const std::string&) override { return false; }
-  void inform(const std::string&, const std::string&) override {}
   std::string chooseFileToOpen(const std::string&) override { return dataFile_; }
-  std::string chooseFileToSave(const std::string&) override { return {}; }
 
 private:
   std::string dataFile_;

@@ -9,6 +9,7 @@
 #include "textio/NumberForms.h"
 #include "textio/RuntimeError.h"
 
+#include <map>
 #include <random>
 
 namespace vorlex {
@@ -285,9 +286,23 @@ const char* MainForm::optManagementOf(int option) {
   return kValues[option - 1];
 }
 
-bool MainForm::hasDriver(const std::string& optManagement) {
-  return optManagement == "OptNoControl" || optManagement == "OptGrowthWithExtraMortality";
+namespace {
+
+using Driver = void (*)(Session&);
+
+// The driver cmdRun runs for each strategy this build has one for.
+Driver driverOf(const std::string& optManagement) {
+  static const std::map<std::string, Driver> kDrivers = {
+      {"OptNoControl", &UnlimitedGrowth},
+      {"OptGrowthWithExtraMortality", &UnlimitedGrowth},
+  };
+  const auto found = kDrivers.find(optManagement);
+  return found == kDrivers.end() ? nullptr : found->second;
 }
+
+} // namespace
+
+bool MainForm::hasDriver(const std::string& optManagement) { return driverOf(optManagement) != nullptr; }
 
 void MainForm::cmdRun_Click() {
   session_.flow("In Private Sub cmdRun_Click()");
@@ -298,10 +313,10 @@ void MainForm::cmdRun_Click() {
   session_.controls["MSChart1"].visible = true;
 
   const std::string& strategy = session_.flags.OptManagement;
-  if (strategy == "OptNoControl" || strategy == "OptGrowthWithExtraMortality")
-    UnlimitedGrowth(session_);
-  else
+  const Driver driver = driverOf(strategy);
+  if (!driver)
     raise(ErrorCode::InvalidProcedureCall, "The strategy " + strategy + " is not available in this build");
+  driver(session_);
 
   session_.files.close(kReportFile);
   PrintStageDeath(session_);

@@ -19,8 +19,14 @@ public:
   i16 integer(const std::string& title, const std::string& prompt, const std::string& defaultText) {
     return toInt16(number(title, prompt, defaultText));
   }
-  // "1" is fixed, any other answer random.
-  bool fixed(const std::string& prompt) { return number("Random extra mortality?", prompt, "1") == 1; }
+  // "1" is fixed, any other answer random. A random mortality is reported
+  // as "Yes" and an entered value of 0.
+  void fixedOrRandom(const std::string& title, const std::string& prompt, double mortality,
+                     std::string& random, double& entered) {
+    const bool fixed = number(title, prompt, "1") == 1;
+    random = fixed ? "No" : "Yes";
+    entered = fixed ? mortality : 0;
+  }
 
   // Made afresh for every question that shows it.
   std::string stageList() const {
@@ -35,6 +41,7 @@ private:
   Model& m_;
 };
 
+constexpr const char* kRandomTitle = "Random extra mortality?";
 constexpr const char* kRandomPrompt = "Fixed or random extra mortality?\n"
                                       "(Use Randomize only 1 time)\n"
                                       "1 = Fixed, else = Random.";
@@ -52,13 +59,11 @@ void askExtraMortality(Session& session) {
                                 "Enter the date at which overwinter mortality occurs.", "200");
   m.OverwinterMortality =
       box.number("Overwinter mortality", "Enter the mortality during overwinter period.", "0.5");
-  const bool overwinterFixed = box.number("Random Overwinter mortality?",
-                                          "Fixed or random overwinter mortality?\n"
-                                          "(Use Randomize only 1 time)\n"
-                                          "1 = Fixed, else = Random.",
-                                          "1") == 1;
-  m.OverwinterRandom = overwinterFixed ? "No" : "Yes";
-  m.OverwinterMortalityInput = overwinterFixed ? m.OverwinterMortality : 0;
+  box.fixedOrRandom("Random Overwinter mortality?",
+                    "Fixed or random overwinter mortality?\n"
+                    "(Use Randomize only 1 time)\n"
+                    "1 = Fixed, else = Random.",
+                    m.OverwinterMortality, m.OverwinterRandom, m.OverwinterMortalityInput);
 
   m.ExtraStage1 =
       box.integer("First extra mortality to d(x,j) of a specific stage",
@@ -74,9 +79,7 @@ void askExtraMortality(Session& session) {
                                  "Enter the mortality to matrix D during extra mortality period.\n"
                                  "(Enter 0 for no extra mortality)",
                                  "0.3");
-  const bool firstFixed = box.fixed(kRandomPrompt);
-  m.ExtraRandom1 = firstFixed ? "No" : "Yes";
-  m.ExtraMortalityInput1 = firstFixed ? m.ExtraMortality1 : 0;
+  box.fixedOrRandom(kRandomTitle, kRandomPrompt, m.ExtraMortality1, m.ExtraRandom1, m.ExtraMortalityInput1);
 
   m.ExtraStage2 =
       box.integer("Is there another extra mortality to d(x,j) of a specific stage?",
@@ -92,9 +95,7 @@ void askExtraMortality(Session& session) {
                                  "Enter the second mortality during extra mortality period.\n"
                                  "(Enter 0 for no mortality)",
                                  "0.5");
-  const bool secondFixed = box.fixed(kRandomPrompt);
-  m.ExtraRandom2 = secondFixed ? "No" : "Yes";
-  m.ExtraMortalityInput2 = secondFixed ? m.ExtraMortality2 : 0;
+  box.fixedOrRandom(kRandomTitle, kRandomPrompt, m.ExtraMortality2, m.ExtraRandom2, m.ExtraMortalityInput2);
 
   m.LowFecundityFrom = box.integer("Date after that fecundity will be lower",
                                    "Enter the date after that fecundity will be lower.", "350");
