@@ -1,10 +1,15 @@
 #!/bin/sh
 # Installs what a fresh Debian 12 machine lacks, then configures and builds
-# Vorlex with its tests and benchmarks into build/.
+# Vorlex (command line, desktop program) with its tests and benchmarks into
+# build/.
 set -eu
 cd "$(dirname "$0")/.."
 
-packages="cmake g++ make libgtest-dev libbenchmark-dev"
+# The desktop program needs Qt 6 Widgets, Charts, Print Support and Svg;
+# Qt Charts looks for Qt OpenGL, which Debian ships apart.
+packages="cmake g++ make libgtest-dev libbenchmark-dev
+  qt6-base-dev qt6-charts-dev qt6-svg-dev libqt6opengl6-dev
+  libgl-dev libvulkan-dev libxkbcommon-dev fonts-dejavu-core"
 missing=""
 for package in $packages; do
   dpkg -s "$package" >/dev/null 2>&1 || missing="$missing $package"

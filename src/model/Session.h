@@ -6,6 +6,7 @@
 #include "textio/Prompter.h"
 #include "textio/ShortDate.h"
 
+#include <cstdint>
 #include <map>
 #include <memory>
 #include <string>
@@ -37,11 +38,13 @@ struct FileNames {
 };
 
 /// What the user sees of one control of a form: whether it can be clicked,
-/// whether it shows, its caption.
+/// whether it shows, its caption, and the hint shown when the mouse rests
+/// on it.
 struct ControlState {
   bool enabled = false;
   bool visible = true;
   std::string caption;
+  std::string hint;
 };
 
 /// Number of the files that stay open: the report and the flow record.
@@ -73,6 +76,14 @@ public:
   int lastDayReached = -1;
   /// What the chart of the main form shows.
   ChartContent mainChart;
+  /// What the large chart of grafform shows.
+  ChartContent largeChart;
+  /// Positions in the chart cycles of the main form (0..34) and of grafform
+  /// (0..7); a run leaves them where they were.
+  std::int16_t ChartCycleIndex = 0;
+  std::int16_t LargeChartCycleIndex = 0;
+  /// Whether grafform was loaded: its Form_Load runs on its first showing.
+  bool largeGraphsLoaded = false;
 
   bool flowOn() const { return flags.FlowFlag == "Yes"; }
   /// Writes a print line to the flow record when it is on.
