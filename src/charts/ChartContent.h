@@ -20,6 +20,7 @@ enum class PenStyle : int { None = 0, Solid = 1 };
 struct ChartFont {
   std::string name = "Arial";
   double points = 12;
+  friend bool operator==(const ChartFont&, const ChartFont&) = default;
 };
 
 struct ChartColour {
@@ -41,6 +42,7 @@ struct ChartAxis {
   ChartColour majorGridColour;
   /// Whether the component chooses the grid colour itself.
   bool automaticGridColour = true;
+  friend bool operator==(const ChartAxis&, const ChartAxis&) = default;
 };
 
 /// A line chart of x-y series. Series n (from 1) has its x values in column
@@ -76,6 +78,8 @@ public:
   double at(int row, int column) const;
   double x(int series, int row) const { return at(row, 2 * series - 1); }
   double y(int series, int row) const { return at(row, 2 * series); }
+
+  friend bool operator==(const ChartContent&, const ChartContent&) = default;
 
 private:
   std::size_t labelIndex(int series) const;

@@ -1,6 +1,7 @@
 #include "mainform/MainForm.h"
 
 #include "datafile/DataFileReader.h"
+#include "mainform/Forms.h"
 #include "mainform/ParameterText.h"
 #include "mainform/Sayings.h"
 #include "model/Session.h"
@@ -9,6 +10,7 @@
 #include "textio/NumberForms.h"
 #include "textio/RuntimeError.h"
 
+#include <cstdio>
 #include <map>
 #include <random>
 
@@ -73,6 +75,9 @@ constexpr ControlSetup kCreated[] = {
     {"lblProcedure", "", true},
     {"lblSaying1", "", true},
     {"lblSaying2", "", true},
+    {"cmdHowToPrint", "How to print", true, true, "How to print this form, the charts and the report"},
+    {"lblClock", "", true},
+    {"lblGreeting", "", true},
 };
 
 constexpr const char* kProcedure = "General procedure: \n"
@@ -96,9 +101,17 @@ std::string withoutLastFour(const std::string& path) {
 
 } // namespace
 
-MainForm::MainForm(Session& session) : session_(session) {
+MainForm::MainForm(Session& session) : session_(session), largeGraphs_(session) {
   for (const ControlSetup& setup : kCreated)
-    session_.controls[setup.name] = ControlState{setup.enabled, setup.visible, setup.caption};
+    session_.controls[setup.name] = ControlState{setup.enabled, setup.visible, setup.caption, setup.hint};
+  // The main form shows from the start; every other form waits for its
+  // button.
+  session_.controls[forms::kMainform] = ControlState{true, true, "Vorlex", ""};
+  for (const char* form : forms::kIntroductions)
+    hideForm(session_, form);
+  for (const char* form : {forms::kReferences, forms::kQuiz, forms::kHowToPrint, forms::kClosing,
+                           forms::kCarryingCapacity})
+    hideForm(session_, form);
 }
 
 void MainForm::Form_Load() {
@@ -329,6 +342,49 @@ void MainForm::cmdRun_Click() {
 
   enable(session_, {"Command4", "Command16", "Command3"});
   enable(session_, {"cmdRun", "Frame4", "cmdInputLTdata"}, false);
+}
+
+void MainForm::Command1_Click() {
+  session_.files.closeAll();
+  showInstead(forms::kClosing);
+}
+
+void MainForm::showInstead(const std::string& form) {
+  hideForm(session_, forms::kMainform);
+  showForm(session_, form);
+}
+
+void MainForm::Command3_Click() { showInstead(forms::kIntroductions[0]); }
+void MainForm::Command6_Click() { showInstead(forms::kIntroductions[1]); }
+void MainForm::Command7_Click() { showInstead(forms::kIntroductions[2]); }
+void MainForm::Command9_Click() { showInstead(forms::kIntroductions[3]); }
+void MainForm::Command14_Click() { showInstead(forms::kReferences); }
+void MainForm::Command15_Click() { showInstead(forms::kQuiz); }
+void MainForm::cmdHowToPrint_Click() { showInstead(forms::kHowToPrint); }
+
+void MainForm::Command4_Click() {
+  showInstead(forms::kLargeGraphs);
+  if (!session_.largeGraphsLoaded)
+    largeGraphs_.Form_Load();
+}
+
+void MainForm::returnFrom(const std::string& form) {
+  hideForm(session_, form);
+  showForm(session_, forms::kMainform);
+}
+
+void MainForm::Timer1_Timer(const std::tm& now) {
+  char clock[64];
+  std::snprintf(clock, sizeof clock, "%04d-%02d-%02d %02d:%02d:%02d", now.tm_year + 1900, now.tm_mon + 1,
+                now.tm_mday, now.tm_hour, now.tm_min, now.tm_sec);
+  session_.controls["lblClock"].caption = clock;
+  const char* greeting = now.tm_hour < 12 ? "Good morning!" : now.tm_hour < 18 ? "Good afternoon!" : "Good evening!";
+  session_.controls["lblGreeting"].caption = greeting;
+}
+
+bool MainForm::optionOpen(int number) const {
+  const auto found = session_.controls.find("Option" + std::to_string(number));
+  return found != session_.controls.end() && found->second.enabled && hasDriver(optManagementOf(number));
 }
 
 } // namespace vorlex

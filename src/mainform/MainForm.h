@@ -1,5 +1,8 @@
 #pragma once
 
+#include "mainform/LargeGraphForm.h"
+
+#include <ctime>
 #include <string>
 
 namespace vorlex {
@@ -36,6 +39,33 @@ public:
   /// Runs the chosen strategy, closes the report, writes the death files.
   void cmdRun_Click();
 
+  /// Quit: closes all files, hides the main form, shows the closing screen
+  /// (whose own button ends the program).
+  void Command1_Click();
+  /// The introductions I1..I4 (Introfrm, Intro1, Intro2, Intro0), the
+  /// references, the quiz and the page on printing: each shows its form and
+  /// hides the main form.
+  void Command3_Click();
+  void Command6_Click();
+  void Command7_Click();
+  void Command9_Click();
+  void Command14_Click();
+  void Command15_Click();
+  void cmdHowToPrint_Click();
+  /// Show large graph: grafform shows, the main form hides; the first time,
+  /// grafform loads with the stage chart.
+  void Command4_Click();
+  /// An information form goes back to the main form.
+  void returnFrom(const std::string& form);
+  /// The clock: the date and time of `now` and a greeting for its hour.
+  void Timer1_Timer(const std::tm& now);
+
+  /// Whether OptionN can be chosen now: it is enabled and this build has
+  /// the driver of its strategy.
+  bool optionOpen(int number) const;
+
+  LargeGraphForm& largeGraphs() { return largeGraphs_; }
+
   /// Whether this build has the driver that cmdRun runs for a strategy
   /// value of OptManagement.
   static bool hasDriver(const std::string& optManagement);
@@ -51,8 +81,10 @@ public:
 private:
   void chooseStrategy(const std::string& optManagement);
   void showParameters();
+  void showInstead(const std::string& form);
 
   Session& session_;
+  LargeGraphForm largeGraphs_;
 };
 
 } // namespace vorlex

@@ -1,0 +1,51 @@
+#pragma once
+
+#include "charts/ChartContent.h"
+
+#include <QChartView>
+
+#include <functional>
+
+namespace vorlex::ui {
+
+/// Draws a chart record with Qt Charts: x-y lines, the legend at the right
+/// when the record has one, titles in their fonts, grid lines as the axes
+/// ask. A left click activates the chart (the owner steps its cycle); the
+/// right-click menu saves the chart as PNG or SVG and copies its data as
+/// comma-separated text.
+class ChartView : public QChartView {
+  Q_OBJECT
+public:
+  explicit ChartView(QWidget* parent = nullptr);
+
+  /// Shows a chart record, replacing what was shown.
+  void showContent(const ChartContent& content);
+  const ChartContent& content() const { return content_; }
+
+  /// Asks where to save a picture; the empty text when the user cancels.
+  /// Without one, saving from the menu does nothing.
+  std::function<std::string(const std::string& title)> chooseFileToSave;
+
+  bool savePng(const QString& path);
+  bool saveSvg(const QString& path);
+  /// Puts the chart's data on the clipboard as comma-separated text.
+  void copyData();
+
+  enum class Picture { Png, Svg };
+  /// Asks for a file name and saves the chart there; ".png" or ".svg" is
+  /// added when the name lacks it. Cancel saves nothing.
+  void saveAs(Picture picture);
+
+signals:
+  /// The chart was clicked.
+  void activated();
+
+protected:
+  void mousePressEvent(QMouseEvent* event) override;
+  void contextMenuEvent(QContextMenuEvent* event) override;
+
+private:
+  ChartContent content_;
+};
+
+} // namespace vorlex::ui

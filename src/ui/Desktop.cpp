@@ -1,0 +1,220 @@
+#include "Desktop.h"
+
+#include "ChartView.h"
+#include "FormPrinting.h"
+#include "LargeGraphWindow.h"
+#include "MainWindow.h"
+#include "charts/ChartCycle.h"
+#include "info/ClosingScreen.h"
+#include "info/InfoTexts.h"
+#include "info/QuizScreen.h"
+#include "mainform/Forms.h"
+#include "textio/RuntimeError.h"
+
+#include <QApplication>
+#include <QMessageBox>
+
+#include <ctime>
+
+namespace vorlex::ui {
+
+namespace {
+
+using Handler = void (MainForm::*)();
+
+// The main form's controls that do something when clicked. The others
+// (Command5, Command24 and the steps whose forms come later) do nothing.
+const std::map<QString, Handler>& mainHandlers() {
+  static const std::map<QString, Handler> kHandlers = {
+      {"Command2", &MainForm::Command2_Click},   {"cmdInputLTdata", &MainForm::cmdInputLTdata_Click},
+      {"Option1", &MainForm::Option1_Click},     {"Option2", &MainForm::Option2_Click},
+      {"Option3", &MainForm::Option3_Click},     {"Option4", &MainForm::Option4_Click},
+      {"Option5", &MainForm::Option5_Click},     {"Option6", &MainForm::Option6_Click},
+      {"Option7", &MainForm::Option7_Click},     {"Option8", &MainForm::Option8_Click},
+      {"Option9", &MainForm::Option9_Click},     {"cmdRun", &MainForm::cmdRun_Click},
+      {"Command1", &MainForm::Command1_Click},   {"Command3", &MainForm::Command3_Click},
+      {"Command6", &MainForm::Command6_Click},   {"Command7", &MainForm::Command7_Click},
+      {"Command9", &MainForm::Command9_Click},   {"Command14", &MainForm::Command14_Click},
+      {"Command15", &MainForm::Command15_Click}, {"cmdHowToPrint", &MainForm::cmdHowToPrint_Click},
+      {"Command4", &MainForm::Command4_Click},
+  };
+  return kHandlers;
+}
+
+} // namespace
+
+Desktop::Desktop(Prompter& prompter)
+    : session_(prompter), form_(session_), mainWindow_(std::make_unique<MainWindow>()),
+      largeGraphWindow_(std::make_unique<LargeGraphWindow>()) {
+  showError = [this](const QString& title, const QString& text) {
+    QMessageBox::critical(mainWindow_->isVisible() ? mainWindow_.get() : nullptr, title, text);
+  };
+  printForm = [](QWidget& form) { printFormWithDialog(form); };
+
+  MainWindow* main = mainWindow_.get();
+  connect(main, &MainWindow::controlClicked, this, &Desktop::clickMain);
+  connect(main, &MainWindow::chartActivated, this, &Desktop::activateMainChart);
+  connect(main, &MainWindow::closing, this, [this] { endProgram(0); });
+
+  LargeGraphWindow* large = largeGraphWindow_.get();
+  connect(large, &LargeGraphWindow::controlClicked, this, &Desktop::clickLargeGraphs);
+  connect(large, &LargeGraphWindow::chartActivated, this, &Desktop::activateLargeChart);
+  connect(large, &LargeGraphWindow::closing, this, [this] {
+    if (formShows(session_, forms::kLargeGraphs))
+      handle([this] { form_.largeGraphs().Form_Unload(); });
+  });
+
+  // Charts can be saved as pictures wherever they show.
+  auto chooseFile = [this](const std::string& title) { return session_.prompter().chooseFileToSave(title); };
+  for (ChartView* view : {main->mainChart(), main->samplingChart(), large->chart()})
+    view->chooseFileToSave = chooseFile;
+
+  // The information screens go back to the main form; the closing screen
+  // ends the program.
+  std::vector<std::string> informationForms(std::begin(forms::kIntroductions), std::end(forms::kIntroductions));
+  informationForms.insert(informationForms.end(), {forms::kReferences, forms::kHowToPrint});
+  for (const std::string& name : informationForms) {
+    InfoScreen* screen = makeInformationScreen(QString::fromStdString(name));
+    connect(screen, &InfoScreen::backClicked, this, [this, name] { handle([this, name] { form_.returnFrom(name); }); });
+    otherForms_[name].reset(screen);
+  }
+  auto* quiz = new QuizScreen;
+  connect(quiz, &QuizScreen::backClicked, this, [this] { handle([this] { form_.returnFrom(forms::kQuiz); }); });
+  otherForms_[forms::kQuiz].reset(quiz);
+  auto* closing = new ClosingScreen;
+  connect(closing, &ClosingScreen::endClicked, this, [this] { endProgram(0); });
+  otherForms_[forms::kClosing].reset(closing);
+
+  timer1_.setInterval(1000);
+  connect(&timer1_, &QTimer::timeout, this, &Desktop::tick);
+}
+
+Desktop::~Desktop() = default;
+
+void Desktop::start() {
+  handle([this] { form_.Form_Load(); });
+  tick();
+  timer1_.start();
+}
+
+QWidget* Desktop::formWindow(const std::string& form) const {
+  if (form == forms::kMainform)
+    return mainWindow_.get();
+  if (form == forms::kLargeGraphs)
+    return largeGraphWindow_.get();
+  const auto found = otherForms_.find(form);
+  return found == otherForms_.end() ? nullptr : found->second.get();
+}
+
+void Desktop::clickMain(const QString& control) {
+  if (control == QLatin1String("Command11")) {
+    printForm(*mainWindow_);
+    return;
+  }
+  const auto found = mainHandlers().find(control);
+  if (found == mainHandlers().end())
+    return;
+  const Handler handler = found->second;
+  const bool run = control == QLatin1String("cmdRun");
+  handle([this, handler, run] {
+    // A run blocks the form until it ends; the cursor says so.
+    if (run)
+      QApplication::setOverrideCursor(Qt::WaitCursor);
+    struct RestoreCursor {
+      bool on;
+      ~RestoreCursor() {
+        if (on)
+          QApplication::restoreOverrideCursor();
+      }
+    } restore{run};
+    (form_.*handler)();
+  });
+}
+
+void Desktop::clickLargeGraphs(const QString& control) {
+  LargeGraphForm& large = form_.largeGraphs();
+  if (control == QLatin1String("Command1"))
+    printForm(*largeGraphWindow_);
+  else if (control == QLatin1String("Command4"))
+    handle([&large] { large.Command4_Click(); });
+  else if (control == QLatin1String("Command2"))
+    handle([&large] { large.Command2_Click(); });
+  else
+    handle([&large, name = control.toStdString()] { large.clickChartButton(name); });
+}
+
+void Desktop::activateMainChart() {
+  handle([this] { MSChart1_Activate(session_); });
+}
+
+void Desktop::activateLargeChart() {
+  handle([this] { grafform::MSChart1_Activate(session_); });
+}
+
+void Desktop::handle(const std::function<void()>& handler) {
+  if (ended_)
+    return;
+  // What the user typed reaches the session before any handler reads it.
+  mainWindow_->takeTexts(session_);
+  try {
+    handler();
+  } catch (const RuntimeError& error) {
+    showAll();
+    QString text = QStringLiteral("Run-time error '%1':\n\n%2").arg(error.number()).arg(QString::fromStdString(error.text()));
+    if (!error.where().empty())
+      text += QStringLiteral("\n\n") + QString::fromStdString(error.where());
+    showError(QStringLiteral("Vorlex"), text);
+    endProgram(1);
+    return;
+  } catch (const ProgramEnd&) {
+    // The user has been told why already.
+    showAll();
+    endProgram(1);
+    return;
+  }
+  showAll();
+}
+
+void Desktop::showAll() {
+  mainWindow_->showStates(session_, form_);
+  largeGraphWindow_->showStates(session_);
+  showCharts();
+  for (const std::string& form : {std::string(forms::kMainform), std::string(forms::kLargeGraphs)})
+    formWindow(form)->setVisible(formShows(session_, form));
+  for (const auto& [name, window] : otherForms_)
+    window->setVisible(formShows(session_, name));
+}
+
+void Desktop::showCharts() {
+  // Rebuilding a chart costs; only a chart whose record changed is drawn.
+  ChartView* main = mainWindow_->mainChart();
+  if (main->content() != session_.mainChart)
+    main->showContent(session_.mainChart);
+  ChartView* large = largeGraphWindow_->chart();
+  if (large->content() != session_.largeChart)
+    large->showContent(session_.largeChart);
+}
+
+void Desktop::endProgram(int exitCode) {
+  if (ended_)
+    return;
+  ended_ = true;
+  timer1_.stop();
+  session_.files.closeAll();
+  for (const auto& [name, window] : otherForms_)
+    window->hide();
+  largeGraphWindow_->hide();
+  mainWindow_->hide();
+  emit programEnded(exitCode);
+}
+
+void Desktop::tick() {
+  const std::time_t now = std::time(nullptr);
+  std::tm local{};
+  localtime_r(&now, &local);
+  form_.Timer1_Timer(local);
+  mainWindow_->showLabel(session_, "lblClock");
+  mainWindow_->showLabel(session_, "lblGreeting");
+}
+
+} // namespace vorlex::ui

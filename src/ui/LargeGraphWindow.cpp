@@ -1,0 +1,78 @@
+#include "LargeGraphWindow.h"
+
+#include "ChartView.h"
+#include "mainform/Forms.h"
+#include "mainform/LargeGraphForm.h"
+#include "model/Session.h"
+
+#include <QCloseEvent>
+#include <QGridLayout>
+#include <QGroupBox>
+#include <QHBoxLayout>
+#include <QPushButton>
+#include <QVBoxLayout>
+
+namespace vorlex::ui {
+
+LargeGraphWindow::LargeGraphWindow(QWidget* parent) : QWidget(parent) {
+  setObjectName(QString::fromLatin1(forms::kLargeGraphs));
+  setWindowTitle(QString::fromLatin1(LargeGraphForm::kTitle));
+
+  auto button = [this](const char* name) {
+    auto* b = new QPushButton;
+    b->setObjectName(QString::fromLatin1(name));
+    connect(b, &QPushButton::clicked, this, [this, b] { emit controlClicked(b->objectName()); });
+    return b;
+  };
+
+  chart_ = new ChartView;
+  chart_->setObjectName(QStringLiteral("MSChart1"));
+  chart_->setMinimumSize(760, 520);
+  connect(chart_, &ChartView::activated, this, &LargeGraphWindow::chartActivated);
+
+  auto* frame = new QGroupBox;
+  frame->setObjectName(QStringLiteral("Frame1"));
+  auto* grid = new QGridLayout(frame);
+  int index = 0;
+  for (const LargeGraphForm::ChartButton& chartButton : LargeGraphForm::chartButtons()) {
+    grid->addWidget(button(chartButton.name), index % 8, index / 8);
+    ++index;
+  }
+
+  auto* side = new QVBoxLayout;
+  side->addWidget(frame);
+  side->addStretch();
+  for (const char* name : {"Command1", "Command4", "Command2"})
+    side->addWidget(button(name));
+
+  auto* whole = new QHBoxLayout(this);
+  whole->addWidget(chart_, 1);
+  whole->addLayout(side);
+  resize(1180, 700);
+}
+
+void LargeGraphWindow::showStates(const Session& session) {
+  const std::string prefix = std::string(forms::kLargeGraphs) + ".";
+  for (const auto& [name, state] : session.controls) {
+    if (name.rfind(prefix, 0) != 0)
+      continue;
+    auto* widget = findChild<QWidget*>(QString::fromStdString(name.substr(prefix.size())));
+    if (!widget)
+      continue;
+    const QString caption = QString::fromStdString(state.caption);
+    if (auto* button = qobject_cast<QAbstractButton*>(widget))
+      button->setText(caption);
+    else if (auto* group = qobject_cast<QGroupBox*>(widget))
+      group->setTitle(caption);
+    widget->setEnabled(state.enabled);
+    widget->setToolTip(QString::fromStdString(state.hint));
+    widget->setVisible(state.visible);
+  }
+}
+
+void LargeGraphWindow::closeEvent(QCloseEvent* event) {
+  emit closing();
+  event->accept();
+}
+
+} // namespace vorlex::ui

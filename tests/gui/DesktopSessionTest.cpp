@@ -1,0 +1,351 @@
+// Whole sessions of the desktop program, clicked through on its widgets with
+// given answers to its questions.
+#include "ChartView.h"
+#include "Desktop.h"
+#include "FormPrinting.h"
+#include "GuiSupport.h"
+#include "LargeGraphWindow.h"
+#include "MainWindow.h"
+#include "charts/ChartFamily.h"
+#include "cli/AnswerPrompter.h"
+#include "mainform/Forms.h"
+
+#include <QAbstractButton>
+#include <QChart>
+#include <QLabel>
+#include <QLineEdit>
+#include <QPrinter>
+#include <QProcess>
+#include <QtTest>
+
+#include <memory>
+#include <sstream>
+
+using namespace vorlex;
+
+namespace {
+
+QByteArray contentsOf(const QString& path) {
+  QFile file(path);
+  return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray("<missing>");
+}
+
+QStringList filesIn(const QString& dir) {
+  return QDir(dir).entryList(QDir::Files, QDir::Name);
+}
+
+/// A desktop session in a folder of its own, on a copy of the example.
+struct Clicked {
+  QTemporaryDir dir;
+  QString dataFile = testing::copyOfExample(dir);
+  std::ostringstream asked;
+  cli::AnswerPrompter answers{asked};
+  ui::Desktop desktop{answers};
+  QSignalSpy ended{&desktop, &ui::Desktop::programEnded};
+  QStringList errors;
+
+  explicit Clicked(std::initializer_list<const char*> given = {}) {
+    answers.addAnswer("Open the vorlex data file=" + dataFile.toStdString());
+    for (const char* answer : given)
+      answers.addAnswer(answer);
+    desktop.session().shortDate = "2026-11-21";
+    desktop.showError = [this](const QString& title, const QString& text) { errors << title + "|" + text; };
+    desktop.start();
+  }
+
+  template <typename Widget = QWidget> Widget* main(const char* name) {
+    auto* widget = desktop.mainWindow().findChild<Widget*>(QString::fromLatin1(name));
+    if (!widget)
+      qFatal("no control %s on the main form", name);
+    return widget;
+  }
+  bool enabled(const char* name) { return main(name)->isEnabled(); }
+  void click(const char* name) { QTest::mouseClick(main<QAbstractButton>(name), Qt::LeftButton); }
+  void clickLarge(const char* name) {
+    QTest::mouseClick(desktop.largeGraphWindow().findChild<QAbstractButton*>(QString::fromLatin1(name)),
+                      Qt::LeftButton);
+  }
+  void clickChart() { QTest::mouseClick(desktop.mainWindow().mainChart()->viewport(), Qt::LeftButton); }
+  QString chartTitle() { return desktop.mainWindow().mainChart()->chart()->title(); }
+  QString largeChartTitle() { return desktop.largeGraphWindow().chart()->chart()->title(); }
+  bool shows(const char* form) { return desktop.formWindow(form)->isVisible(); }
+
+  void runNoControl(const char* simTime = "30") {
+    QLineEdit* time = main<QLineEdit>("txtSimuT");
+    time->clear();
+    QTest::keyClicks(time, QString::fromLatin1(simTime));
+    click("Command2");
+    click("cmdInputLTdata");
+    click("Option1");
+    click("cmdRun");
+  }
+};
+
+QString title(ChartContent (*show)(Session&), Session& session) {
+  return QString::fromStdString(show(session).title);
+}
+
+} // namespace
+
+class DesktopSessionTest : public QObject {
+  Q_OBJECT
+private slots:
+  void eachStepEnablesTheNextAndTheRunShowsTheStageChart() {
+    Clicked s;
+    QVERIFY(s.shows(forms::kMainform));
+    for (const char* on : {"txtSimuT", "Command2", "Command3", "Command6", "Command7", "Command9", "Command14",
+                           "Command15", "Command1", "Command11"})
+      QVERIFY2(s.enabled(on), on);
+    for (const char* off : {"Frame4", "Option1", "cmdInputLTdata", "cmdRun", "Command4", "Command16", "Command5"})
+      QVERIFY2(!s.enabled(off), off);
+    QCOMPARE(s.main<QLineEdit>("txtSimuT")->text(), QStringLiteral("60"));
+    QCOMPARE(s.main<QAbstractButton>("cmdInputLTdata")->text(), QStringLiteral("Read life table and vorlex data"));
+    QCOMPARE(s.main<QAbstractButton>("cmdRun")->toolTip(), QStringLiteral("Run simulation based on life table"));
+    QVERIFY(s.main<QLabel>("lblProcedure")->text().startsWith(QStringLiteral("General procedure: \n1. Enter")));
+    QVERIFY(s.main<QLabel>("lblSaying1")->text() != s.main<QLabel>("lblSaying2")->text());
+    QVERIFY(s.main<QLabel>("lblClock")->text().contains(QLatin1Char(':')));
+    QVERIFY(!s.main("MSChart1")->isVisible() && s.main("MSChart2")->isVisible());
+
+    QLineEdit* time = s.main<QLineEdit>("txtSimuT");
+    time->clear();
+    QTest::keyClicks(time, QStringLiteral("30"));
+    s.click("Command2");
+    QVERIFY(s.enabled("cmdInputLTdata"));
+    QCOMPARE(s.desktop.session().model().SimTime, 30);
+
+    s.click("cmdInputLTdata");
+    QCOMPARE(s.main<QLineEdit>("txtDatafile")->text(), s.dataFile);
+    QVERIFY(s.main<QLineEdit>("txtDatafile")->styleSheet().contains(QStringLiteral("yellow")));
+    QCOMPARE(s.main<QLineEdit>("txtIntrinsicRate")->text(), QStringLiteral(".1332"));
+    QCOMPARE(s.main<QLineEdit>("txtFecundity")->text(), QStringLiteral("249.989"));
+    QCOMPARE(s.main<QLineEdit>("txtLastAge")->text(), QStringLiteral("45"));
+    for (const char* on : {"Frame4", "Option1", "Option9", "cmdStageSamplingData", "cmdStageProjection"})
+      QVERIFY2(s.enabled(on), on);
+    // Strategies without a driver in this build, and the two never enabled.
+    for (const char* off : {"Option2", "Option4", "Option5", "cmdInputLTdata", "Command2", "Command3", "cmdRun"})
+      QVERIFY2(!s.enabled(off), off);
+
+    s.click("Option1");
+    QVERIFY(s.enabled("cmdRun"));
+    QVERIFY(!s.enabled("Frame4") && !s.enabled("Option9"));
+
+    s.click("cmdRun");
+    QVERIFY(s.ended.isEmpty());
+    for (const char* on : {"Command4", "Command16", "Command3"})
+      QVERIFY2(s.enabled(on), on);
+    for (const char* off : {"cmdRun", "Frame4", "cmdInputLTdata"})
+      QVERIFY2(!s.enabled(off), off);
+    QVERIFY(s.main("MSChart1")->isVisible() && !s.main("MSChart2")->isVisible());
+    QVERIFY(!s.main("lblSaying1")->isVisible());
+
+    // The stage chart of the run: a line for each of the five stages, 31 days.
+    QChart* chart = s.desktop.mainWindow().mainChart()->chart();
+    QCOMPARE(chart->title(), QStringLiteral("Stage size"));
+    QCOMPARE(chart->series().size(), 5);
+    auto* eggs = qobject_cast<QLineSeries*>(chart->series().first());
+    QCOMPARE(eggs->count(), 31);
+    QCOMPARE(eggs->at(30).y(), s.desktop.session().model().StageSize(1, 30));
+    QVERIFY(eggs->at(30).y() > 0);
+
+    QVERIFY(s.desktop.mainWindow().grab().save(testing::screenshotPath(QStringLiteral("mainform-after-run.png"))));
+  }
+
+  void desktopWritesTheReviewedFilesOfTheCommandLine() {
+    Clicked s;
+    s.runNoControl();
+    QVERIFY(s.errors.isEmpty());
+    QFile::remove(s.dataFile);
+    const QString golden = QStringLiteral(VORLEX_TEST_DATA_DIR "/golden/moth-no-control");
+    QStringList expected = filesIn(golden);
+    expected.removeAll(QStringLiteral("stdout.txt"));
+    QCOMPARE(filesIn(s.dir.path()), expected);
+    for (const QString& name : expected)
+      QVERIFY2(contentsOf(s.dir.filePath(name)) == contentsOf(golden + "/" + name), qPrintable(name));
+  }
+
+  void commandLineAndDesktopAgreeOnTheExtraMortalityQuestions() {
+    const char* kAnswers[] = {"Overwinter stage=3", "Date of overwinter mortality=20", "Overwinter mortality=0.5",
+                              "Lower fecundity=0.3", "Date after that fecundity will be lower=10",
+                              "Date after that fecundity will be normal=15"};
+    QTemporaryDir cliDir;
+    const QString cliData = testing::copyOfExample(cliDir);
+    QStringList arguments{"run", cliData, "--strategy", "extra-mortality", "--sim-time", "25", "--date", "2026-11-21"};
+    for (const char* answer : kAnswers)
+      arguments << "--answer" << QString::fromLatin1(answer);
+    QProcess cli;
+    cli.start(QStringLiteral(VORLEX_CLI), arguments);
+    QVERIFY(cli.waitForFinished(60000));
+    QCOMPARE(cli.exitCode(), 0);
+
+    Clicked s;
+    for (const char* answer : kAnswers)
+      s.answers.addAnswer(answer);
+    QLineEdit* time = s.main<QLineEdit>("txtSimuT");
+    time->clear();
+    QTest::keyClicks(time, QStringLiteral("25"));
+    s.click("Command2");
+    s.click("cmdInputLTdata");
+    s.click("Option9");
+    s.click("cmdRun");
+    QVERIFY(s.errors.isEmpty());
+
+    const QStringList written = filesIn(s.dir.path());
+    QCOMPARE(written, filesIn(cliDir.path()));
+    QVERIFY(written.size() > 15);
+    for (const QString& name : written)
+      QVERIFY2(contentsOf(s.dir.filePath(name)) == contentsOf(cliDir.filePath(name)), qPrintable(name));
+  }
+
+  void clicksOnTheChartStepThroughTheCycleAndSkipConsumption() {
+    Clicked s;
+    s.runNoControl();
+    Session& session = s.desktop.session();
+    // The first click after the start moves to entry 1.
+    const std::pair<int, ChartContent (*)(Session&)> kLap[] = {
+        {1, ShowLogStageStructure}, {2, ShowStageSizeWithTotalAdults}, {3, ShowStageGrowthRate},
+        {10, ShowSij},              {16, ShowLxMx},                    {23, ShowTotalDifference},
+        {30, ShowLogCumuStageDeath}};
+    for (const auto& [index, show] : kLap) {
+      while (session.ChartCycleIndex < index)
+        s.clickChart();
+      QCOMPARE(s.chartTitle(), title(show, session));
+    }
+    // Without consumption data 17..22 and the predation entries change
+    // nothing: the chart of 16 stays through 22, that of 30 through 34.
+    Clicked t;
+    t.runNoControl();
+    for (int i = 0; i < 16; ++i)
+      t.clickChart();
+    const QString lxmx = t.chartTitle();
+    for (int i = 17; i <= 22; ++i) {
+      t.clickChart();
+      QCOMPARE(t.chartTitle(), lxmx);
+    }
+    t.clickChart();
+    QCOMPARE(t.chartTitle(), title(ShowTotalDifference, t.desktop.session()));
+    for (int i = 24; i <= 30; ++i)
+      t.clickChart();
+    const QString cumulative = t.chartTitle();
+    for (int i = 31; i <= 34; ++i) {
+      t.clickChart();
+      QCOMPARE(t.chartTitle(), cumulative);
+    }
+    t.clickChart(); // after 34: the stage chart again
+    QCOMPARE(int(t.desktop.session().ChartCycleIndex), 0);
+    QCOMPARE(t.chartTitle(), QStringLiteral("Stage size"));
+  }
+
+  void largeGraphsHaveTheirButtonsCycleBackAndQuit() {
+    Clicked s;
+    s.runNoControl();
+    s.click("Command4");
+    QVERIFY(s.shows(forms::kLargeGraphs));
+    QVERIFY(!s.shows(forms::kMainform));
+    QCOMPARE(s.desktop.largeGraphWindow().windowTitle(), QStringLiteral("Large graphs"));
+    QCOMPARE(s.largeChartTitle(), QStringLiteral("Stage size curves"));
+    QCOMPARE(s.desktop.largeGraphWindow().findChild<QAbstractButton*>(QStringLiteral("Command18"))->text(),
+             QStringLiteral("log(Vuln. size +1)"));
+
+    s.clickLarge("Command16");
+    QCOMPARE(s.largeChartTitle(), title(grafform::ShowStageDeath, s.desktop.session()));
+    // The large cycle starts from its own place: the first click shows entry 1.
+    QTest::mouseClick(s.desktop.largeGraphWindow().chart()->viewport(), Qt::LeftButton);
+    QCOMPARE(s.largeChartTitle(), title(grafform::ShowLogStageStructure, s.desktop.session()));
+    QCOMPARE(int(s.desktop.session().ChartCycleIndex), 0);
+
+    s.clickLarge("Command4"); // Back
+    QVERIFY(s.shows(forms::kMainform) && !s.shows(forms::kLargeGraphs));
+    s.click("Command4");
+    // Loaded once: showing it again keeps its chart.
+    QCOMPARE(s.largeChartTitle(), title(grafform::ShowLogStageStructure, s.desktop.session()));
+    s.desktop.largeGraphWindow().close(); // closing the window goes back too
+    QVERIFY(s.shows(forms::kMainform) && !s.shows(forms::kLargeGraphs));
+    QVERIFY(s.ended.isEmpty());
+
+    s.click("Command4");
+    s.clickLarge("Command2"); // Quit: the closing screen
+    QVERIFY(s.shows(forms::kClosing) && !s.shows(forms::kLargeGraphs));
+    QTest::mouseClick(s.desktop.formWindow(forms::kClosing)->findChild<QAbstractButton*>(QStringLiteral("cmdEnd")),
+                      Qt::LeftButton);
+    QCOMPARE(s.ended.size(), 1);
+    QCOMPARE(s.ended.first().first().toInt(), 0);
+  }
+
+  void informationScreensGoBackAndQuitEndsThroughTheClosingScreen() {
+    Clicked s;
+    const std::pair<const char*, const char*> kScreens[] = {
+        {"Command3", "Introfrm"}, {"Command6", "Intro1"},    {"Command7", "Intro2"},        {"Command9", "Intro0"},
+        {"Command14", "Referenc"}, {"Command15", "Quiz"}, {"cmdHowToPrint", "HowToPrint"}};
+    for (const auto& [button, form] : kScreens) {
+      s.click(button);
+      QVERIFY2(s.shows(form) && !s.shows(forms::kMainform), form);
+      QTest::mouseClick(s.desktop.formWindow(form)->findChild<QAbstractButton*>(QStringLiteral("cmdBack")),
+                        Qt::LeftButton);
+      QVERIFY2(!s.shows(form) && s.shows(forms::kMainform), form);
+    }
+    s.runNoControl("5");
+    s.click("Command1");
+    QVERIFY(s.shows(forms::kClosing) && !s.shows(forms::kMainform));
+    QVERIFY(s.ended.isEmpty()); // only the closing screen's button ends it
+    s.desktop.formWindow(forms::kClosing)->close();
+    QCOMPARE(s.ended.size(), 1);
+  }
+
+  void closingTheMainFormEndsTheProgram() {
+    Clicked s;
+    s.desktop.mainWindow().close();
+    QCOMPARE(s.ended.size(), 1);
+    QCOMPARE(s.ended.first().first().toInt(), 0);
+  }
+
+  void printPutsTheFormOnAPage() {
+    Clicked s;
+    QTemporaryDir dir;
+    const QString pdf = dir.filePath(QStringLiteral("form.pdf"));
+    QStringList printed;
+    s.desktop.printForm = [&](QWidget& form) {
+      printed << form.objectName();
+      QPrinter printer(QPrinter::HighResolution);
+      printer.setOutputFormat(QPrinter::PdfFormat);
+      printer.setOutputFileName(pdf);
+      QVERIFY(ui::printForm(form, printer));
+    };
+    s.click("Command11");
+    QCOMPARE(printed, QStringList{QStringLiteral("Mainform")});
+    const QByteArray file = contentsOf(pdf);
+    QVERIFY(file.startsWith("%PDF"));
+    QVERIFY(file.size() > 10000); // the form as a picture, not an empty page
+
+    s.runNoControl("5");
+    s.click("Command4");
+    s.clickLarge("Command1");
+    QCOMPARE(printed.last(), QStringLiteral("grafform"));
+  }
+
+  void aRunTimeErrorIsShownWithItsPlaceAndEndsTheProgram() {
+    Clicked s;
+    // A data file cut in the middle of its life table.
+    QFile file(s.dataFile);
+    QVERIFY(file.open(QIODevice::ReadOnly));
+    const QByteArray whole = file.readAll();
+    file.close();
+    QVERIFY(file.open(QIODevice::WriteOnly | QIODevice::Truncate));
+    file.write(whole.left(whole.size() / 3));
+    file.close();
+
+    s.click("Command2");
+    s.click("cmdInputLTdata");
+    QCOMPARE(s.errors.size(), 1);
+    QVERIFY2(s.errors.first().startsWith(QStringLiteral("Vorlex|Run-time error '62':\n\nInput past end of file\n\n")),
+             qPrintable(s.errors.first()));
+    QVERIFY(s.errors.first().contains(QStringLiteral("moth.txt")));
+    QCOMPARE(s.ended.size(), 1);
+    QCOMPARE(s.ended.first().first().toInt(), 1);
+    QVERIFY(!s.shows(forms::kMainform));
+    s.desktop.activateMainChart(); // nothing runs after the end
+    QCOMPARE(int(s.desktop.session().ChartCycleIndex), 0);
+  }
+};
+
+QTEST_MAIN(DesktopSessionTest)
+#include "DesktopSessionTest.moc"

@@ -1,0 +1,44 @@
+#pragma once
+
+#include <QApplication>
+#include <QDir>
+#include <QString>
+#include <QTemporaryDir>
+#include <QTimer>
+#include <QWidget>
+
+#include <functional>
+
+namespace vorlex::testing {
+
+/// Does `work` with the modal dialog that the next call opens, as soon as
+/// it shows; the caller then makes the call that opens it.
+inline void whenDialogShows(std::function<void(QWidget* dialog)> work) {
+  auto* poll = new QTimer;
+  poll->setInterval(10);
+  QObject::connect(poll, &QTimer::timeout, [poll, work = std::move(work)] {
+    QWidget* dialog = QApplication::activeModalWidget();
+    if (!dialog)
+      return;
+    poll->stop();
+    poll->deleteLater();
+    work(dialog);
+  });
+  poll->start();
+}
+
+/// The folder for the pictures the tests take.
+inline QString screenshotPath(const QString& file) {
+  QDir().mkpath(QStringLiteral(VORLEX_SCREENSHOT_DIR));
+  return QStringLiteral(VORLEX_SCREENSHOT_DIR) + QLatin1Char('/') + file;
+}
+
+/// The bundled example copied into a fresh folder; returns its path.
+inline QString copyOfExample(const QTemporaryDir& dir, const QString& as = QStringLiteral("moth.txt")) {
+  const QString path = dir.filePath(as);
+  QFile::remove(path);
+  QFile::copy(QStringLiteral(VORLEX_SOURCE_DIR "/examples/moth.txt"), path);
+  return path;
+}
+
+} // namespace vorlex::testing

@@ -1,0 +1,105 @@
+// The dialogs the desktop program asks with.
+#include "GuiSupport.h"
+#include "QtPrompter.h"
+
+#include <QAbstractButton>
+#include <QFileDialog>
+#include <QInputDialog>
+#include <QLineEdit>
+#include <QMessageBox>
+#include <QPushButton>
+#include <QtTest>
+
+using vorlex::testing::whenDialogShows;
+using vorlex::ui::QtPrompter;
+
+class QtPrompterTest : public QObject {
+  Q_OBJECT
+private slots:
+  void valueBoxShowsDefaultReadyAndGivesTypedText() {
+    QtPrompter prompter;
+    QString shownDefault, shownTitle, shownLabel;
+    whenDialogShows([&](QWidget* dialog) {
+      auto* input = qobject_cast<QInputDialog*>(dialog);
+      QVERIFY(input);
+      shownDefault = input->textValue();
+      shownTitle = input->windowTitle();
+      shownLabel = input->labelText();
+      input->setTextValue(QStringLiteral("0.5"));
+      input->accept();
+    });
+    const std::string answer = prompter.askValue("Enter the time unit\n(For any other, enter 1.)", "Each time unit =?", "1");
+    QCOMPARE(shownDefault, QStringLiteral("1"));
+    QCOMPARE(shownTitle, QStringLiteral("Each time unit =?"));
+    QCOMPARE(shownLabel, QStringLiteral("Enter the time unit\n(For any other, enter 1.)"));
+    QCOMPARE(answer, std::string("0.5"));
+  }
+
+  void cancelledValueBoxGivesEmptyText() {
+    QtPrompter prompter;
+    whenDialogShows([](QWidget* dialog) { qobject_cast<QDialog*>(dialog)->reject(); });
+    QCOMPARE(prompter.askValue("What is the day?", "Initial population released date?", "0"), std::string());
+  }
+
+  void yesNoHasTwoButtonsAndNoIcon() {
+    QtPrompter prompter;
+    QMessageBox::Icon icon = QMessageBox::Critical;
+    QStringList buttons;
+    whenDialogShows([&](QWidget* dialog) {
+      auto* box = qobject_cast<QMessageBox*>(dialog);
+      QVERIFY(box);
+      icon = box->icon();
+      for (QAbstractButton* button : box->buttons())
+        buttons << button->text().remove(QLatin1Char('&'));
+      box->button(QMessageBox::No)->click();
+    });
+    QCOMPARE(prompter.askYesNo("Physogastric reproduction?", "Attention"), false);
+    QCOMPARE(icon, QMessageBox::NoIcon);
+    buttons.sort();
+    QCOMPARE(buttons, (QStringList{QStringLiteral("No"), QStringLiteral("Yes")}));
+
+    whenDialogShows([](QWidget* dialog) { qobject_cast<QMessageBox*>(dialog)->button(QMessageBox::Yes)->click(); });
+    QCOMPARE(prompter.askYesNo("Do you need the record of program flow?", "Do you need flow record?"), true);
+  }
+
+  void informShowsTextWithOk() {
+    QtPrompter prompter;
+    QString text;
+    int buttonCount = 0;
+    whenDialogShows([&](QWidget* dialog) {
+      auto* box = qobject_cast<QMessageBox*>(dialog);
+      text = box->text();
+      buttonCount = static_cast<int>(box->buttons().size());
+      box->button(QMessageBox::Ok)->click();
+    });
+    prompter.inform("The population died out on day 12.", "Attention");
+    QCOMPARE(text, QStringLiteral("The population died out on day 12."));
+    QCOMPARE(buttonCount, 1);
+  }
+
+  void fileDialogsFilterTextAndAllFiles() {
+    QtPrompter prompter;
+    QTemporaryDir dir;
+    const QString chosen = dir.filePath(QStringLiteral("moth.txt"));
+    QFile file(chosen);
+    QVERIFY(file.open(QIODevice::WriteOnly));
+    file.close();
+
+    QStringList filters;
+    whenDialogShows([&](QWidget* dialog) {
+      auto* files = qobject_cast<QFileDialog*>(dialog);
+      QVERIFY(files);
+      filters = files->nameFilters();
+      files->selectFile(chosen);
+      files->accept();
+    });
+    QCOMPARE(QString::fromStdString(prompter.chooseFileToOpen("Open the vorlex data file")), chosen);
+    QCOMPARE(filters, (QStringList{QStringLiteral("Text files (*.txt)"), QStringLiteral("All files (*)")}));
+
+    whenDialogShows([](QWidget* dialog) { qobject_cast<QDialog*>(dialog)->reject(); });
+    QCOMPARE(prompter.chooseFileToSave("Save the chart as PNG"), std::string());
+  }
+};
+
+QTEST_MAIN(QtPrompterTest)
+#include "QtPrompterTest.moc"
