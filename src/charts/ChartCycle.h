@@ -28,7 +28,9 @@ const ChartCycleEntry& chartCycleEntry(int index);
 
 /// The chart of the main form was activated: the position moves on by one
 /// (after 34 back to 0) and that entry runs. An entry whose condition fails,
-/// or the empty entry, shows nothing and leaves the chart as it was.
+/// or the empty entry, shows nothing and leaves the chart as it was; so does
+/// a position below 0, which climbs back to 0 one activation at a time. A
+/// routine that stops leaves the chart as it was, the position moved.
 /// Returns whether the chart changed.
 bool MSChart1_Activate(Session& session);
 
@@ -38,7 +40,8 @@ ShowRoutine largeChartCycleEntry(int index);
 
 namespace grafform {
 /// The large chart was activated: its position moves on by one (after 7
-/// back to 0) and that entry shows on session.largeChart.
+/// back to 0) and that entry shows on session.largeChart; a position below
+/// 0 shows nothing.
 void MSChart1_Activate(Session& session);
 } // namespace grafform
 
