@@ -14,6 +14,7 @@
 #include <QApplication>
 #include <QMessageBox>
 
+#include <clocale>
 #include <ctime>
 
 namespace vorlex::ui {
@@ -46,6 +47,9 @@ const std::map<QString, Handler>& mainHandlers() {
 Desktop::Desktop(Prompter& prompter)
     : session_(prompter), form_(session_), mainWindow_(std::make_unique<MainWindow>()),
       largeGraphWindow_(std::make_unique<LargeGraphWindow>()) {
+  // The application takes the user's locale for everything; numbers in the
+  // files must keep the decimal point whatever the user's locale says.
+  std::setlocale(LC_NUMERIC, "C");
   showError = [this](const QString& title, const QString& text) {
     QMessageBox::critical(mainWindow_->isVisible() ? mainWindow_.get() : nullptr, title, text);
   };

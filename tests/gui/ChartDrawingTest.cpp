@@ -1,6 +1,6 @@
 // A chart record drawn with Qt Charts, saved as pictures and copied as data.
-#include "ChartDrawing.h"
-#include "ChartView.h"
+#include "ui/ChartDrawing.h"
+#include "ui/ChartView.h"
 #include "GuiSupport.h"
 
 #include <QApplication>

@@ -1,11 +1,11 @@
 // Whole sessions of the desktop program, clicked through on its widgets with
 // given answers to its questions.
-#include "ChartView.h"
-#include "Desktop.h"
-#include "FormPrinting.h"
+#include "ui/ChartView.h"
+#include "ui/Desktop.h"
+#include "ui/FormPrinting.h"
 #include "GuiSupport.h"
-#include "LargeGraphWindow.h"
-#include "MainWindow.h"
+#include "ui/LargeGraphWindow.h"
+#include "ui/MainWindow.h"
 #include "charts/ChartFamily.h"
 #include "cli/AnswerPrompter.h"
 #include "mainform/Forms.h"
@@ -14,8 +14,10 @@
 #include <QChart>
 #include <QLabel>
 #include <QLineEdit>
+#include <QLineSeries>
 #include <QPrinter>
 #include <QProcess>
+#include <QRadioButton>
 #include <QtTest>
 
 #include <memory>
@@ -60,7 +62,13 @@ struct Clicked {
     return widget;
   }
   bool enabled(const char* name) { return main(name)->isEnabled(); }
-  void click(const char* name) { QTest::mouseClick(main<QAbstractButton>(name), Qt::LeftButton); }
+  // A radio button takes clicks on its circle and text only: click near
+  // its left edge.
+  void click(const char* name) {
+    auto* button = main<QAbstractButton>(name);
+    const QPoint at = qobject_cast<QRadioButton*>(button) ? QPoint(8, button->height() / 2) : button->rect().center();
+    QTest::mouseClick(button, Qt::LeftButton, {}, at);
+  }
   void clickLarge(const char* name) {
     QTest::mouseClick(desktop.largeGraphWindow().findChild<QAbstractButton*>(QString::fromLatin1(name)),
                       Qt::LeftButton);
@@ -147,6 +155,7 @@ private slots:
     QCOMPARE(eggs->at(30).y(), s.desktop.session().model().StageSize(1, 30));
     QVERIFY(eggs->at(30).y() > 0);
 
+    QApplication::processEvents(); // let the layout take in what was hidden
     QVERIFY(s.desktop.mainWindow().grab().save(testing::screenshotPath(QStringLiteral("mainform-after-run.png"))));
   }
 

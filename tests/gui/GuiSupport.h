@@ -12,14 +12,22 @@
 namespace vorlex::testing {
 
 /// Does `work` with the modal dialog that the next call opens, as soon as
-/// it shows; the caller then makes the call that opens it.
+/// it shows; the caller then makes the call that opens it. A dialog that
+/// does not show within 30 s is given up with a warning, so that a test
+/// fails instead of hanging.
 inline void whenDialogShows(std::function<void(QWidget* dialog)> work) {
   auto* poll = new QTimer;
   poll->setInterval(10);
-  QObject::connect(poll, &QTimer::timeout, [poll, work = std::move(work)] {
+  QObject::connect(poll, &QTimer::timeout, [poll, work = std::move(work), polls = 0]() mutable {
     QWidget* dialog = QApplication::activeModalWidget();
-    if (!dialog)
+    if (!dialog) {
+      if (++polls == 3000) {
+        qWarning("no dialog showed within 30 s");
+        poll->stop();
+        poll->deleteLater();
+      }
       return;
+    }
     poll->stop();
     poll->deleteLater();
     work(dialog);

@@ -1,6 +1,6 @@
 // The dialogs the desktop program asks with.
 #include "GuiSupport.h"
-#include "QtPrompter.h"
+#include "ui/QtPrompter.h"
 
 #include <QAbstractButton>
 #include <QFileDialog>
@@ -91,7 +91,7 @@ private slots:
       QVERIFY(files);
       filters = files->nameFilters();
       files->selectFile(chosen);
-      files->accept();
+      static_cast<QDialog*>(files)->accept();
     });
     QCOMPARE(QString::fromStdString(prompter.chooseFileToOpen("Open the vorlex data file")), chosen);
     QCOMPARE(filters, (QStringList{QStringLiteral("Text files (*.txt)"), QStringLiteral("All files (*)")}));
