@@ -32,7 +32,8 @@ constexpr ControlSetup kCreated[] = {
     {"txtSimuT", "", true},
     {"cmdKandT", "Density-dependent K?", false, true, "Enter simulation time and carrying capacity function"},
     {"Command2", "OK", true},
-    {"cmdInputLTdata", "Read life table and vorlex data", false, true, "Open data file no. 15 created by Quorat"},
+    {"cmdInputLTdata", "Read life table and vorlex data", false, true,
+     "Open data file no. 15 created by Quorat"},
     {"Frame4", "3.  Select control strategy ", false},
     {"Option1", "No control", false},
     {"Option2", "Control based on predefined schedule", false},
@@ -46,13 +47,15 @@ constexpr ControlSetup kCreated[] = {
     {"cmdRun", "Run simulation", false, true, "Run simulation based on life table"},
     {"Command4", "Show large graph", false},
     {"Command16", "Carrying capacity", false, true, "View carrying capacity"},
-    {"Command5", "Not available yet", false, true, "Predict the population growth based on the age-stage structure at time t"},
+    {"Command5", "Not available yet", false, true,
+     "Predict the population growth based on the age-stage structure at time t"},
     {"cmdVIPOption1", "", false, true, "Write the total population size of a chosen day to a file"},
     {"cmdVIPOption2", "", false, true, "Write the stage sizes of a chosen day to a file"},
     {"cmdVIPOption3", "", false, true, "Write the total consumption of a chosen day to a file"},
     {"cmdVIPOption4", "", false, true, "Write the weighted size of a chosen day to a file"},
     {"cmdStageSamplingData", "Show sampling data ", false, true, "Read and show sampling data"},
-    {"cmdStageProjection", "Predict emergence of y stage", false, true, "Predict the emergence and size of stage y based on the sampling data of stage x"},
+    {"cmdStageProjection", "Predict emergence of y stage", false, true,
+     "Predict the emergence and size of stage y based on the sampling data of stage x"},
     {"cmdProjectionAfterSampling", "Project growth using N(j) at time t", false, true, "Project from N(j,t)"},
     {"Command1", "Quit", true, true, "Quit this program"},
     {"Command3", "I1", false, true, "Introduction: the age-stage, two-sex life table"},
@@ -109,8 +112,8 @@ MainForm::MainForm(Session& session) : session_(session), largeGraphs_(session) 
   session_.controls[forms::kMainform] = ControlState{true, true, "Vorlex", ""};
   for (const char* form : forms::kIntroductions)
     hideForm(session_, form);
-  for (const char* form : {forms::kReferences, forms::kQuiz, forms::kHowToPrint, forms::kClosing,
-                           forms::kCarryingCapacity})
+  for (const char* form :
+       {forms::kReferences, forms::kQuiz, forms::kHowToPrint, forms::kClosing, forms::kCarryingCapacity})
     hideForm(session_, form);
 }
 
@@ -378,13 +381,19 @@ void MainForm::Timer1_Timer(const std::tm& now) {
   std::snprintf(clock, sizeof clock, "%04d-%02d-%02d %02d:%02d:%02d", now.tm_year + 1900, now.tm_mon + 1,
                 now.tm_mday, now.tm_hour, now.tm_min, now.tm_sec);
   session_.controls["lblClock"].caption = clock;
-  const char* greeting = now.tm_hour < 12 ? "Good morning!" : now.tm_hour < 18 ? "Good afternoon!" : "Good evening!";
+  const char* greeting = now.tm_hour < 12   ? "Good morning!"
+                         : now.tm_hour < 18 ? "Good afternoon!"
+                                            : "Good evening!";
   session_.controls["lblGreeting"].caption = greeting;
 }
 
 bool MainForm::optionOpen(int number) const {
-  const auto found = session_.controls.find("Option" + std::to_string(number));
-  return found != session_.controls.end() && found->second.enabled && hasDriver(optManagementOf(number));
+  const auto on = [this](const std::string& name) {
+    const auto found = session_.controls.find(name);
+    return found != session_.controls.end() && found->second.enabled;
+  };
+  // An option stands in Frame4: a locked frame locks its options.
+  return on("Frame4") && on("Option" + std::to_string(number)) && hasDriver(optManagementOf(number));
 }
 
 } // namespace vorlex

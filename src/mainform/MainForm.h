@@ -60,8 +60,8 @@ public:
   /// The clock: the date and time of `now` and a greeting for its hour.
   void Timer1_Timer(const std::tm& now);
 
-  /// Whether OptionN can be chosen now: it is enabled and this build has
-  /// the driver of its strategy.
+  /// Whether OptionN can be chosen now: it and its frame are enabled and
+  /// this build has the driver of its strategy.
   bool optionOpen(int number) const;
 
   LargeGraphForm& largeGraphs() { return largeGraphs_; }

@@ -75,15 +75,18 @@ Desktop::Desktop(Prompter& prompter)
 
   // The information screens go back to the main form; the closing screen
   // ends the program.
-  std::vector<std::string> informationForms(std::begin(forms::kIntroductions), std::end(forms::kIntroductions));
+  std::vector<std::string> informationForms(std::begin(forms::kIntroductions),
+                                            std::end(forms::kIntroductions));
   informationForms.insert(informationForms.end(), {forms::kReferences, forms::kHowToPrint});
   for (const std::string& name : informationForms) {
     InfoScreen* screen = makeInformationScreen(QString::fromStdString(name));
-    connect(screen, &InfoScreen::backClicked, this, [this, name] { handle([this, name] { form_.returnFrom(name); }); });
+    connect(screen, &InfoScreen::backClicked, this,
+            [this, name] { handle([this, name] { form_.returnFrom(name); }); });
     otherForms_[name].reset(screen);
   }
   auto* quiz = new QuizScreen;
-  connect(quiz, &QuizScreen::backClicked, this, [this] { handle([this] { form_.returnFrom(forms::kQuiz); }); });
+  connect(quiz, &QuizScreen::backClicked, this,
+          [this] { handle([this] { form_.returnFrom(forms::kQuiz); }); });
   otherForms_[forms::kQuiz].reset(quiz);
   auto* closing = new ClosingScreen;
   connect(closing, &ClosingScreen::endClicked, this, [this] { endProgram(0); });
@@ -164,7 +167,9 @@ void Desktop::handle(const std::function<void()>& handler) {
     handler();
   } catch (const RuntimeError& error) {
     showAll();
-    QString text = QStringLiteral("Run-time error '%1':\n\n%2").arg(error.number()).arg(QString::fromStdString(error.text()));
+    QString text = QStringLiteral("Run-time error '%1':\n\n%2")
+                       .arg(error.number())
+                       .arg(QString::fromStdString(error.text()));
     if (!error.where().empty())
       text += QStringLiteral("\n\n") + QString::fromStdString(error.where());
     showError(QStringLiteral("Vorlex"), text);

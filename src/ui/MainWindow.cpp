@@ -71,8 +71,8 @@ MainWindow::MainWindow(QWidget* parent) : QWidget(parent) {
   frame1->setObjectName(QStringLiteral("Frame1"));
   auto* steps = new QVBoxLayout(frame1);
 
-  steps->addLayout(stepRow("1.", {new QLabel(tr("Simulation time length")), textBox("txtSimuT", 70),
-                                  button("Command2")}));
+  steps->addLayout(
+      stepRow("1.", {new QLabel(tr("Simulation time length")), textBox("txtSimuT", 70), button("Command2")}));
   auto* dataFile = textBox("txtDatafile");
   dataFile->setReadOnly(true);
   dataFile->setStyleSheet(QStringLiteral("QLineEdit { background: yellow; color: black; }"));
@@ -85,7 +85,8 @@ MainWindow::MainWindow(QWidget* parent) : QWidget(parent) {
   for (int n = 1; n <= 9; ++n) {
     auto* option = new QRadioButton;
     option->setObjectName(QStringLiteral("Option%1").arg(n));
-    connect(option, &QRadioButton::clicked, this, [this, option] { emit controlClicked(option->objectName()); });
+    connect(option, &QRadioButton::clicked, this,
+            [this, option] { emit controlClicked(option->objectName()); });
     options->addWidget(option, (n - 1) % 5, (n - 1) / 5);
   }
   steps->addLayout(stepRow("3.", {frame4}));
@@ -96,8 +97,8 @@ MainWindow::MainWindow(QWidget* parent) : QWidget(parent) {
   auto* grid = new QGridLayout(parameters);
   grid->setContentsMargins(0, 0, 0, 0);
   const std::pair<const char*, const char*> kParameters[] = {
-      {"F =", "txtFecundity"},         {"R0", "txtNetReproductiveRate"}, {"r =", "txtIntrinsicRate"},
-      {"T =", "txtMeanGenerationTime"}, {"\u03bb =", "txtLambda"},       {"Last age =", "txtLastAge"}};
+      {"F =", "txtFecundity"},          {"R0", "txtNetReproductiveRate"}, {"r =", "txtIntrinsicRate"},
+      {"T =", "txtMeanGenerationTime"}, {"\u03bb =", "txtLambda"},        {"Last age =", "txtLastAge"}};
   int column = 0;
   for (const auto& [caption, name] : kParameters) {
     grid->addWidget(new QLabel(QString::fromUtf8(caption)), 0, column, Qt::AlignCenter);
@@ -112,8 +113,13 @@ MainWindow::MainWindow(QWidget* parent) : QWidget(parent) {
   auto* exports = new QWidget;
   auto* exportGrid = new QGridLayout(exports);
   exportGrid->setContentsMargins(0, 0, 0, 0);
-  const char* kExports[] = {"cmdVIPOption1", "cmdVIPOption2", "cmdVIPOption3", "cmdVIPOption4",
-                            "cmdStageSamplingData", "cmdStageProjection", "cmdProjectionAfterSampling",
+  const char* kExports[] = {"cmdVIPOption1",
+                            "cmdVIPOption2",
+                            "cmdVIPOption3",
+                            "cmdVIPOption4",
+                            "cmdStageSamplingData",
+                            "cmdStageProjection",
+                            "cmdProjectionAfterSampling",
                             "Command5"};
   for (int i = 0; i < 8; ++i)
     exportGrid->addWidget(button(kExports[i]), i / 2, i % 2);

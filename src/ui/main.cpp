@@ -1,7 +1,7 @@
 // vorlex-gui: the desktop program.
 #include "Desktop.h"
-#include "QtPrompter.h"
 #include "MainWindow.h"
+#include "QtPrompter.h"
 
 #include <QApplication>
 

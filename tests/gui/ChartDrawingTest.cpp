@@ -1,7 +1,7 @@
 // A chart record drawn with Qt Charts, saved as pictures and copied as data.
 #include "ui/ChartDrawing.h"
-#include "ui/ChartView.h"
 #include "GuiSupport.h"
+#include "ui/ChartView.h"
 
 #include <QApplication>
 #include <QChart>

@@ -1,14 +1,14 @@
 // Whole sessions of the desktop program, clicked through on its widgets with
 // given answers to its questions.
-#include "ui/ChartView.h"
-#include "ui/Desktop.h"
-#include "ui/FormPrinting.h"
 #include "GuiSupport.h"
-#include "ui/LargeGraphWindow.h"
-#include "ui/MainWindow.h"
 #include "charts/ChartFamily.h"
 #include "cli/AnswerPrompter.h"
 #include "mainform/Forms.h"
+#include "ui/ChartView.h"
+#include "ui/Desktop.h"
+#include "ui/FormPrinting.h"
+#include "ui/LargeGraphWindow.h"
+#include "ui/MainWindow.h"
 
 #include <QAbstractButton>
 #include <QChart>
@@ -32,9 +32,7 @@ QByteArray contentsOf(const QString& path) {
   return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray("<missing>");
 }
 
-QStringList filesIn(const QString& dir) {
-  return QDir(dir).entryList(QDir::Files, QDir::Name);
-}
+QStringList filesIn(const QString& dir) { return QDir(dir).entryList(QDir::Files, QDir::Name); }
 
 /// A desktop session in a folder of its own, on a copy of the example.
 struct Clicked {
@@ -66,7 +64,8 @@ struct Clicked {
   // its left edge.
   void click(const char* name) {
     auto* button = main<QAbstractButton>(name);
-    const QPoint at = qobject_cast<QRadioButton*>(button) ? QPoint(8, button->height() / 2) : button->rect().center();
+    const QPoint at =
+        qobject_cast<QRadioButton*>(button) ? QPoint(8, button->height() / 2) : button->rect().center();
     QTest::mouseClick(button, Qt::LeftButton, {}, at);
   }
   void clickLarge(const char* name) {
@@ -101,15 +100,19 @@ private slots:
   void eachStepEnablesTheNextAndTheRunShowsTheStageChart() {
     Clicked s;
     QVERIFY(s.shows(forms::kMainform));
-    for (const char* on : {"txtSimuT", "Command2", "Command3", "Command6", "Command7", "Command9", "Command14",
-                           "Command15", "Command1", "Command11"})
+    for (const char* on : {"txtSimuT", "Command2", "Command3", "Command6", "Command7", "Command9",
+                           "Command14", "Command15", "Command1", "Command11"})
       QVERIFY2(s.enabled(on), on);
-    for (const char* off : {"Frame4", "Option1", "cmdInputLTdata", "cmdRun", "Command4", "Command16", "Command5"})
+    for (const char* off :
+         {"Frame4", "Option1", "cmdInputLTdata", "cmdRun", "Command4", "Command16", "Command5"})
       QVERIFY2(!s.enabled(off), off);
     QCOMPARE(s.main<QLineEdit>("txtSimuT")->text(), QStringLiteral("60"));
-    QCOMPARE(s.main<QAbstractButton>("cmdInputLTdata")->text(), QStringLiteral("Read life table and vorlex data"));
-    QCOMPARE(s.main<QAbstractButton>("cmdRun")->toolTip(), QStringLiteral("Run simulation based on life table"));
-    QVERIFY(s.main<QLabel>("lblProcedure")->text().startsWith(QStringLiteral("General procedure: \n1. Enter")));
+    QCOMPARE(s.main<QAbstractButton>("cmdInputLTdata")->text(),
+             QStringLiteral("Read life table and vorlex data"));
+    QCOMPARE(s.main<QAbstractButton>("cmdRun")->toolTip(),
+             QStringLiteral("Run simulation based on life table"));
+    QVERIFY(
+        s.main<QLabel>("lblProcedure")->text().startsWith(QStringLiteral("General procedure: \n1. Enter")));
     QVERIFY(s.main<QLabel>("lblSaying1")->text() != s.main<QLabel>("lblSaying2")->text());
     QVERIFY(s.main<QLabel>("lblClock")->text().contains(QLatin1Char(':')));
     QVERIFY(!s.main("MSChart1")->isVisible() && s.main("MSChart2")->isVisible());
@@ -130,7 +133,8 @@ private slots:
     for (const char* on : {"Frame4", "Option1", "Option9", "cmdStageSamplingData", "cmdStageProjection"})
       QVERIFY2(s.enabled(on), on);
     // Strategies without a driver in this build, and the two never enabled.
-    for (const char* off : {"Option2", "Option4", "Option5", "cmdInputLTdata", "Command2", "Command3", "cmdRun"})
+    for (const char* off :
+         {"Option2", "Option4", "Option5", "cmdInputLTdata", "Command2", "Command3", "cmdRun"})
       QVERIFY2(!s.enabled(off), off);
 
     s.click("Option1");
@@ -156,7 +160,8 @@ private slots:
     QVERIFY(eggs->at(30).y() > 0);
 
     QApplication::processEvents(); // let the layout take in what was hidden
-    QVERIFY(s.desktop.mainWindow().grab().save(testing::screenshotPath(QStringLiteral("mainform-after-run.png"))));
+    QVERIFY(s.desktop.mainWindow().grab().save(
+        testing::screenshotPath(QStringLiteral("mainform-after-run.png"))));
   }
 
   void desktopWritesTheReviewedFilesOfTheCommandLine() {
@@ -173,12 +178,16 @@ private slots:
   }
 
   void commandLineAndDesktopAgreeOnTheExtraMortalityQuestions() {
-    const char* kAnswers[] = {"Overwinter stage=3", "Date of overwinter mortality=20", "Overwinter mortality=0.5",
-                              "Lower fecundity=0.3", "Date after that fecundity will be lower=10",
+    const char* kAnswers[] = {"Overwinter stage=3",
+                              "Date of overwinter mortality=20",
+                              "Overwinter mortality=0.5",
+                              "Lower fecundity=0.3",
+                              "Date after that fecundity will be lower=10",
                               "Date after that fecundity will be normal=15"};
     QTemporaryDir cliDir;
     const QString cliData = testing::copyOfExample(cliDir);
-    QStringList arguments{"run", cliData, "--strategy", "extra-mortality", "--sim-time", "25", "--date", "2026-11-21"};
+    QStringList arguments{"run",        cliData, "--strategy", "extra-mortality",
+                          "--sim-time", "25",    "--date",     "2026-11-21"};
     for (const char* answer : kAnswers)
       arguments << "--answer" << QString::fromLatin1(answer);
     QProcess cli;
@@ -210,10 +219,13 @@ private slots:
     s.runNoControl();
     Session& session = s.desktop.session();
     // The first click after the start moves to entry 1.
-    const std::pair<int, ChartContent (*)(Session&)> kLap[] = {
-        {1, ShowLogStageStructure}, {2, ShowStageSizeWithTotalAdults}, {3, ShowStageGrowthRate},
-        {10, ShowSij},              {16, ShowLxMx},                    {23, ShowTotalDifference},
-        {30, ShowLogCumuStageDeath}};
+    const std::pair<int, ChartContent (*)(Session&)> kLap[] = {{1, ShowLogStageStructure},
+                                                               {2, ShowStageSizeWithTotalAdults},
+                                                               {3, ShowStageGrowthRate},
+                                                               {10, ShowSij},
+                                                               {16, ShowLxMx},
+                                                               {23, ShowTotalDifference},
+                                                               {30, ShowLogCumuStageDeath}};
     for (const auto& [index, show] : kLap) {
       while (session.ChartCycleIndex < index)
         s.clickChart();
@@ -274,8 +286,9 @@ private slots:
     s.click("Command4");
     s.clickLarge("Command2"); // Quit: the closing screen
     QVERIFY(s.shows(forms::kClosing) && !s.shows(forms::kLargeGraphs));
-    QTest::mouseClick(s.desktop.formWindow(forms::kClosing)->findChild<QAbstractButton*>(QStringLiteral("cmdEnd")),
-                      Qt::LeftButton);
+    QTest::mouseClick(
+        s.desktop.formWindow(forms::kClosing)->findChild<QAbstractButton*>(QStringLiteral("cmdEnd")),
+        Qt::LeftButton);
     QCOMPARE(s.ended.size(), 1);
     QCOMPARE(s.ended.first().first().toInt(), 0);
   }
@@ -283,8 +296,9 @@ private slots:
   void informationScreensGoBackAndQuitEndsThroughTheClosingScreen() {
     Clicked s;
     const std::pair<const char*, const char*> kScreens[] = {
-        {"Command3", "Introfrm"}, {"Command6", "Intro1"},    {"Command7", "Intro2"},        {"Command9", "Intro0"},
-        {"Command14", "Referenc"}, {"Command15", "Quiz"}, {"cmdHowToPrint", "HowToPrint"}};
+        {"Command3", "Introfrm"},       {"Command6", "Intro1"},    {"Command7", "Intro2"},
+        {"Command9", "Intro0"},         {"Command14", "Referenc"}, {"Command15", "Quiz"},
+        {"cmdHowToPrint", "HowToPrint"}};
     for (const auto& [button, form] : kScreens) {
       s.click(button);
       QVERIFY2(s.shows(form) && !s.shows(forms::kMainform), form);
@@ -345,7 +359,8 @@ private slots:
     s.click("Command2");
     s.click("cmdInputLTdata");
     QCOMPARE(s.errors.size(), 1);
-    QVERIFY2(s.errors.first().startsWith(QStringLiteral("Vorlex|Run-time error '62':\n\nInput past end of file\n\n")),
+    QVERIFY2(s.errors.first().startsWith(
+                 QStringLiteral("Vorlex|Run-time error '62':\n\nInput past end of file\n\n")),
              qPrintable(s.errors.first()));
     QVERIFY(s.errors.first().contains(QStringLiteral("moth.txt")));
     QCOMPARE(s.ended.size(), 1);
