@@ -267,6 +267,9 @@ private slots:
     QCOMPARE(s.desktop.largeGraphWindow().findChild<QAbstractButton*>(QStringLiteral("Command18"))->text(),
              QStringLiteral("log(Vuln. size +1)"));
 
+    QApplication::processEvents();
+    QVERIFY(s.desktop.largeGraphWindow().grab().save(testing::screenshotPath(QStringLiteral("large-graphs.png"))));
+
     s.clickLarge("Command16");
     QCOMPARE(s.largeChartTitle(), title(grafform::ShowStageDeath, s.desktop.session()));
     // The large cycle starts from its own place: the first click shows entry 1.
