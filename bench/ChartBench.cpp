@@ -3,6 +3,7 @@
 #include "charts/ChartCycle.h"
 #include "mainform/MainForm.h"
 #include "model/Session.h"
+#include "textio/RuntimeError.h"
 #include "textio/SilentPrompter.h"
 
 #include <benchmark/benchmark.h>
@@ -41,8 +42,14 @@ void BM_ChartCycleLapAfterALongRun(benchmark::State& state) {
   session.files.closeAll();
 
   for (auto _ : state) {
-    for (int click = 0; click < vorlex::kChartCycleLength; ++click)
-      vorlex::MSChart1_Activate(session);
+    for (int click = 0; click < vorlex::kChartCycleLength; ++click) {
+      // The log of a total that fell by more than 1 in a day stops its
+      // chart, as it stops the program; the lap goes on past it here.
+      try {
+        vorlex::MSChart1_Activate(session);
+      } catch (const vorlex::RuntimeError&) {
+      }
+    }
     benchmark::DoNotOptimize(session.mainChart.rowCount());
   }
   fs::remove_all(dir);

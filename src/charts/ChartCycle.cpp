@@ -109,8 +109,13 @@ bool MSChart1_Activate(Session& session) {
   ShowRoutine routine = entry.routine;
   if (index == 0 && session.model().ReleaseDate != 0)
     routine = ShowStageStructureLateRelease;
-  // A routine that stops leaves the chart as it was.
-  session.mainChart = routine(session);
+  // A routine that stops leaves the chart as it was, and says which chart
+  // of the cycle it was.
+  try {
+    session.mainChart = routine(session);
+  } catch (const RuntimeError& error) {
+    throw error.at("Chart " + std::to_string(index) + " of the main form's chart cycle");
+  }
   return true;
 }
 
@@ -120,7 +125,11 @@ void MSChart1_Activate(Session& session) {
   const int index = stepOn(session.LargeChartCycleIndex, kLargeChartCycleLength);
   if (!inCycle(index, kLargeChartCycleLength))
     return;
-  session.largeChart = largeChartCycleEntry(index)(session);
+  try {
+    session.largeChart = largeChartCycleEntry(index)(session);
+  } catch (const RuntimeError& error) {
+    throw error.at("Chart " + std::to_string(index) + " of the large chart cycle");
+  }
 }
 
 } // namespace grafform

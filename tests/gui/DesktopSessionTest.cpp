@@ -256,6 +256,22 @@ private slots:
     QCOMPARE(t.chartTitle(), QStringLiteral("Stage size"));
   }
 
+  void aChartThatCannotBeDrawnEndsTheProgramWithItsError() {
+    // Over 60 days the total falls by more than 1 from one day to the next,
+    // and the log of that difference has no value.
+    Clicked s;
+    s.runNoControl("60");
+    while (s.desktop.session().ChartCycleIndex < 23)
+      s.clickChart();
+    QVERIFY(s.errors.isEmpty());
+    s.clickChart();
+    QCOMPARE(s.errors,
+             QStringList{QStringLiteral("Vorlex|Run-time error '5':\n\nInvalid procedure call or argument\n\n"
+                                        "Chart 24 of the main form's chart cycle")});
+    QCOMPARE(s.ended.size(), 1);
+    QCOMPARE(s.ended.first().first().toInt(), 1);
+  }
+
   void largeGraphsHaveTheirButtonsCycleBackAndQuit() {
     Clicked s;
     s.runNoControl();
@@ -268,7 +284,8 @@ private slots:
              QStringLiteral("log(Vuln. size +1)"));
 
     QApplication::processEvents();
-    QVERIFY(s.desktop.largeGraphWindow().grab().save(testing::screenshotPath(QStringLiteral("large-graphs.png"))));
+    QVERIFY(s.desktop.largeGraphWindow().grab().save(
+        testing::screenshotPath(QStringLiteral("large-graphs.png"))));
 
     s.clickLarge("Command16");
     QCOMPARE(s.largeChartTitle(), title(grafform::ShowStageDeath, s.desktop.session()));
