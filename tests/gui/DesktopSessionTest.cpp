@@ -9,12 +9,16 @@
 #include "ui/FormPrinting.h"
 #include "ui/LargeGraphWindow.h"
 #include "ui/MainWindow.h"
+#include "ui/QtPrompter.h"
 
 #include <QAbstractButton>
 #include <QChart>
+#include <QFileDialog>
+#include <QInputDialog>
 #include <QLabel>
 #include <QLineEdit>
 #include <QLineSeries>
+#include <QMessageBox>
 #include <QPrinter>
 #include <QProcess>
 #include <QRadioButton>
@@ -175,6 +179,61 @@ private slots:
     QCOMPARE(filesIn(s.dir.path()), expected);
     for (const QString& name : expected)
       QVERIFY2(contentsOf(s.dir.filePath(name)) == contentsOf(golden + "/" + name), qPrintable(name));
+  }
+
+  void theDialogsOfTheProgramLeadToTheSameFiles() {
+    QTemporaryDir dir;
+    const QString dataFile = testing::copyOfExample(dir);
+    ui::QtPrompter prompter;
+    ui::Desktop desktop(prompter);
+    prompter.setParent(&desktop.mainWindow());
+    desktop.session().shortDate = "2026-11-21";
+    desktop.start();
+
+    auto press = [](QMessageBox::StandardButton which) {
+      return [which](QWidget* dialog) { qobject_cast<QMessageBox*>(dialog)->button(which)->click(); };
+    };
+    auto takeDefault = [](QWidget* dialog) { qobject_cast<QDialog*>(dialog)->accept(); };
+    QString defaults;
+    testing::DialogScript script({
+        press(QMessageBox::No), // physogastry
+        press(QMessageBox::No), // C(x,j)
+        [&](QWidget* dialog) {
+          defaults += qobject_cast<QInputDialog*>(dialog)->textValue();
+          takeDefault(dialog);
+        },
+        press(QMessageBox::No), // only the totals
+        [&](QWidget* dialog) {
+          defaults += qobject_cast<QInputDialog*>(dialog)->textValue();
+          takeDefault(dialog);
+        },
+        [&](QWidget* dialog) {
+          auto* files = qobject_cast<QFileDialog*>(dialog);
+          files->selectFile(dataFile);
+          static_cast<QDialog*>(files)->accept();
+        },
+        press(QMessageBox::No), // flow record
+    });
+
+    auto* time = desktop.mainWindow().findChild<QLineEdit*>(QStringLiteral("txtSimuT"));
+    time->clear();
+    QTest::keyClicks(time, QStringLiteral("30"));
+    for (const char* control : {"Command2", "cmdInputLTdata", "Option1", "cmdRun"})
+      desktop.clickMain(QString::fromLatin1(control));
+    QVERIFY(script.done());
+    QCOMPARE(script.titles,
+             (QStringList{"Attention", "Attention", "Initial population released date?",
+                          "Prepare only the data files of total population size and log(total)?",
+                          "Each time unit =?", "Open the vorlex data file", "Do you need flow record?"}));
+    QCOMPARE(defaults, QStringLiteral("01"));
+
+    QFile::remove(dataFile);
+    const QString golden = QStringLiteral(VORLEX_TEST_DATA_DIR "/golden/moth-no-control");
+    QStringList expected = filesIn(golden);
+    expected.removeAll(QStringLiteral("stdout.txt"));
+    QCOMPARE(filesIn(dir.path()), expected);
+    for (const QString& name : expected)
+      QVERIFY2(contentsOf(dir.filePath(name)) == contentsOf(golden + "/" + name), qPrintable(name));
   }
 
   void commandLineAndDesktopAgreeOnTheExtraMortalityQuestions() {

@@ -2,12 +2,14 @@
 
 #include <QApplication>
 #include <QDir>
+#include <QFile>
 #include <QString>
 #include <QTemporaryDir>
 #include <QTimer>
 #include <QWidget>
 
 #include <functional>
+#include <vector>
 
 namespace vorlex::testing {
 
@@ -34,6 +36,35 @@ inline void whenDialogShows(std::function<void(QWidget* dialog)> work) {
   });
   poll->start();
 }
+
+/// Answers the modal dialogs that show from now on, one after the other,
+/// each with the next of `answers`; records their window titles. Stops
+/// when the answers run out.
+class DialogScript : public QObject {
+public:
+  using Answer = std::function<void(QWidget* dialog)>;
+  explicit DialogScript(std::vector<Answer> answers) : answers_(std::move(answers)) {
+    connect(&poll_, &QTimer::timeout, this, [this] { answerNext(); });
+    poll_.start(10);
+  }
+  QStringList titles;
+  bool done() const { return next_ == answers_.size(); }
+
+private:
+  void answerNext() {
+    QWidget* dialog = QApplication::activeModalWidget();
+    if (!dialog || dialog->property("answered").toBool() || done())
+      return;
+    dialog->setProperty("answered", true);
+    titles << dialog->windowTitle();
+    answers_[next_++](dialog);
+    if (done())
+      poll_.stop();
+  }
+  std::vector<Answer> answers_;
+  std::size_t next_ = 0;
+  QTimer poll_;
+};
 
 /// The folder for the pictures the tests take.
 inline QString screenshotPath(const QString& file) {
