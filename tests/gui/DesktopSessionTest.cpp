@@ -207,11 +207,7 @@ private slots:
           defaults += qobject_cast<QInputDialog*>(dialog)->textValue();
           takeDefault(dialog);
         },
-        [&](QWidget* dialog) {
-          auto* files = qobject_cast<QFileDialog*>(dialog);
-          files->selectFile(dataFile);
-          static_cast<QDialog*>(files)->accept();
-        },
+        [&](QWidget* dialog) { testing::chooseInFileDialog(dialog, dataFile); },
         press(QMessageBox::No), // flow record
     });
 

@@ -3,6 +3,9 @@
 #include <QApplication>
 #include <QDir>
 #include <QFile>
+#include <QFileDialog>
+#include <QLineEdit>
+#include <QPointer>
 #include <QString>
 #include <QTemporaryDir>
 #include <QTimer>
@@ -14,27 +17,57 @@
 namespace vorlex::testing {
 
 /// Does `work` with the modal dialog that the next call opens, as soon as
-/// it shows; the caller then makes the call that opens it. A dialog that
-/// does not show within 30 s is given up with a warning, so that a test
-/// fails instead of hanging.
+/// it shows; the caller then makes the call that opens it. A file dialog
+/// reads its folder in the background and may still be busy when it is
+/// answered, so a dialog still open half a second after its answer is
+/// answered again. A dialog that does not show within 30 s is given up with
+/// a warning, so that a test fails instead of hanging.
 inline void whenDialogShows(std::function<void(QWidget* dialog)> work) {
   auto* poll = new QTimer;
   poll->setInterval(10);
-  QObject::connect(poll, &QTimer::timeout, [poll, work = std::move(work), polls = 0]() mutable {
-    QWidget* dialog = QApplication::activeModalWidget();
-    if (!dialog) {
-      if (++polls == 3000) {
-        qWarning("no dialog showed within 30 s");
-        poll->stop();
-        poll->deleteLater();
-      }
-      return;
-    }
-    poll->stop();
-    poll->deleteLater();
-    work(dialog);
-  });
+  QObject::connect(poll, &QTimer::timeout,
+                   [poll, work = std::move(work), polls = 0, answered = QPointer<QWidget>(),
+                    hasAnswered = false, sinceAnswer = 0]() mutable {
+                     QWidget* dialog = QApplication::activeModalWidget();
+                     if (hasAnswered) {
+                       if (!answered || dialog != answered) {
+                         poll->stop();
+                         poll->deleteLater();
+                       } else if (++sinceAnswer == 50) {
+                         sinceAnswer = 0;
+                         work(dialog);
+                       }
+                       return;
+                     }
+                     if (!dialog) {
+                       if (++polls == 3000) {
+                         qWarning("no dialog showed within 30 s");
+                         poll->stop();
+                         poll->deleteLater();
+                       }
+                       return;
+                     }
+                     answered = dialog;
+                     hasAnswered = true;
+                     work(dialog);
+                   });
   poll->start();
+}
+
+/// Chooses a file in a file dialog by typing its whole path into the name
+/// box, as a user can, and accepts. (Selecting it in the list depends on
+/// the dialog having read its folder, which it does in the background.)
+inline void chooseInFileDialog(QWidget* dialog, const QString& path) {
+  auto* files = qobject_cast<QFileDialog*>(dialog);
+  if (!files) {
+    dialog->close();
+    return;
+  }
+  if (auto* name = files->findChild<QLineEdit*>(QStringLiteral("fileNameEdit")))
+    name->setText(path);
+  else
+    files->selectFile(path);
+  static_cast<QDialog*>(files)->accept();
 }
 
 /// Answers the modal dialogs that show from now on, one after the other,
@@ -53,16 +86,30 @@ public:
 private:
   void answerNext() {
     QWidget* dialog = QApplication::activeModalWidget();
-    if (!dialog || dialog->property("answered").toBool() || done())
+    if (!dialog)
       return;
-    dialog->setProperty("answered", true);
+    if (dialog == last_) {
+      // Still open after its answer (a file dialog busy with its folder):
+      // answer it again after a while.
+      if (++sinceAnswer_ == 50) {
+        sinceAnswer_ = 0;
+        answers_[next_ - 1](dialog);
+      }
+      return;
+    }
+    if (done()) {
+      poll_.stop();
+      return;
+    }
+    last_ = dialog;
+    sinceAnswer_ = 0;
     titles << dialog->windowTitle();
     answers_[next_++](dialog);
-    if (done())
-      poll_.stop();
   }
   std::vector<Answer> answers_;
   std::size_t next_ = 0;
+  QPointer<QWidget> last_;
+  int sinceAnswer_ = 0;
   QTimer poll_;
 };
 
