@@ -1,9 +1,6 @@
 // Drawing a chart record with Qt Charts: the stage chart of a long run, as
 // the desktop program draws it after the run and on each click.
-#include "charts/ChartFamily.h"
-#include "mainform/MainForm.h"
-#include "model/Session.h"
-#include "textio/SilentPrompter.h"
+#include "../ExampleRun.h"
 #include "ui/ChartDrawing.h"
 #include "ui/ChartView.h"
 
@@ -13,42 +10,16 @@
 
 #include <benchmark/benchmark.h>
 
-#include <filesystem>
 #include <memory>
-#include <string>
 
 namespace {
 
-namespace fs = std::filesystem;
-
-class DefaultAnswers : public vorlex::SilentPrompter {
-public:
-  explicit DefaultAnswers(std::string dataFile) : dataFile_(std::move(dataFile)) {}
-  std::string chooseFileToOpen(const std::string&) override { return dataFile_; }
-
-private:
-  std::string dataFile_;
-};
-
 vorlex::ChartContent stageChartOfARun(int simTime) {
-  const fs::path dir = fs::temp_directory_path() / "vorlex-bench-drawing";
-  fs::create_directories(dir);
-  const fs::path dataFile = dir / "moth.txt";
-  fs::copy_file(fs::path(VORLEX_SOURCE_DIR) / "examples" / "moth.txt", dataFile,
-                fs::copy_options::overwrite_existing);
-  DefaultAnswers answers(dataFile.string());
+  const vorlex::bench::ExampleCopy example("vorlex-bench-drawing");
+  vorlex::bench::DefaultAnswers answers(example.dataFile());
   vorlex::Session session(answers);
-  vorlex::MainForm form(session);
-  form.Form_Load();
-  session.controls["txtSimuT"].caption = std::to_string(simTime);
-  form.Command2_Click();
-  form.cmdInputLTdata_Click();
-  form.Option1_Click();
-  form.cmdRun_Click();
-  session.files.closeAll();
-  vorlex::ChartContent chart = session.mainChart;
-  fs::remove_all(dir);
-  return chart;
+  vorlex::bench::runWithoutControl(session, simTime);
+  return session.mainChart;
 }
 
 void BM_BuildStageChart(benchmark::State& state) {
