@@ -1,6 +1,7 @@
 #include "LargeGraphWindow.h"
 
 #include "ChartView.h"
+#include "ControlDisplay.h"
 #include "mainform/Forms.h"
 #include "mainform/LargeGraphForm.h"
 #include "model/Session.h"
@@ -59,14 +60,7 @@ void LargeGraphWindow::showStates(const Session& session) {
     auto* widget = findChild<QWidget*>(QString::fromStdString(name.substr(prefix.size())));
     if (!widget)
       continue;
-    const QString caption = QString::fromStdString(state.caption);
-    if (auto* button = qobject_cast<QAbstractButton*>(widget))
-      button->setText(caption);
-    else if (auto* group = qobject_cast<QGroupBox*>(widget))
-      group->setTitle(caption);
-    widget->setEnabled(state.enabled);
-    widget->setToolTip(QString::fromStdString(state.hint));
-    widget->setVisible(state.visible);
+    showControl(*widget, state);
   }
 }
 

@@ -1,6 +1,7 @@
 #include "MainWindow.h"
 
 #include "ChartView.h"
+#include "ControlDisplay.h"
 #include "mainform/MainForm.h"
 #include "model/Session.h"
 
@@ -175,27 +176,15 @@ void MainWindow::showStates(const Session& session, const MainForm& form) {
     auto* widget = findChild<QWidget*>(QString::fromStdString(name));
     if (!widget)
       continue;
-    const QString caption = QString::fromStdString(state.caption);
-    if (auto* box = qobject_cast<QLineEdit*>(widget)) {
-      if (box->text() != caption)
-        box->setText(caption);
-    } else if (auto* button = qobject_cast<QAbstractButton*>(widget)) {
-      button->setText(caption);
-    } else if (auto* group = qobject_cast<QGroupBox*>(widget)) {
-      group->setTitle(caption);
-    } else if (auto* label = qobject_cast<QLabel*>(widget)) {
-      label->setText(caption);
-    }
     QString hint = QString::fromStdString(state.hint);
     bool enabled = state.enabled;
     if (name.rfind("Option", 0) == 0) {
-      enabled = form.optionOpen(std::stoi(name.substr(6)));
-      if (state.enabled && !enabled)
+      const int option = std::stoi(name.substr(6));
+      enabled = form.optionOpen(option);
+      if (!MainForm::hasDriver(MainForm::optManagementOf(option)))
         hint = tr("This strategy is not available in this version of Vorlex yet.");
     }
-    widget->setEnabled(enabled);
-    widget->setToolTip(hint);
-    widget->setVisible(state.visible);
+    showControl(*widget, state, enabled, hint);
   }
 }
 

@@ -143,6 +143,10 @@ private slots:
 
     s.click("Option1");
     QVERIFY(s.enabled("cmdRun"));
+    // Only a strategy this build cannot run says so.
+    QCOMPARE(s.main("Option1")->toolTip(), QString());
+    QCOMPARE(s.main("Option2")->toolTip(),
+             QStringLiteral("This strategy is not available in this version of Vorlex yet."));
     QVERIFY(!s.enabled("Frame4") && !s.enabled("Option9"));
 
     s.click("cmdRun");
