@@ -5,8 +5,8 @@ namespace vorlex {
 class Session;
 
 /// The projection a strategy runs after day 0: resets SeriesIndex and
-/// projects days 1..SimTime+1. Growth with harvest is not part of this
-/// build and stops with Invalid procedure call.
+/// projects days 1..SimTime+1, with the harvest's book-keeping when the
+/// strategy is growth with harvest.
 void VorlexDPopulationGrowth(Session& session);
 
 /// Projects the population from day 1 to SimTime + 1, one day at a time:

@@ -6,6 +6,7 @@
 #include "mainform/Sayings.h"
 #include "model/Session.h"
 #include "reports/DeathFiles.h"
+#include "strategies/ControlledGrowth.h"
 #include "strategies/UnlimitedGrowth.h"
 #include "textio/NumberForms.h"
 #include "textio/RuntimeError.h"
@@ -312,6 +313,9 @@ Driver driverOf(const std::string& optManagement) {
   static const std::map<std::string, Driver> kDrivers = {
       {"OptNoControl", &UnlimitedGrowth},
       {"OptGrowthWithExtraMortality", &UnlimitedGrowth},
+      {"OptPredefinedControl", &PredefinedControl},
+      {"OptAutoControlBasedOnET", &AutoControlBasedonET},
+      {"OptGrowthWithHarvest", &GrowthWithHarvest},
   };
   const auto found = kDrivers.find(optManagement);
   return found == kDrivers.end() ? nullptr : found->second;

@@ -1,6 +1,7 @@
 #include "model/InitialCalculation.h"
 
 #include "model/Arithmetic.h"
+#include "model/DayZero.h"
 #include "model/DensityMortality.h"
 #include "model/Session.h"
 #include "textio/NumberForms.h"
@@ -16,49 +17,35 @@ void VorlexBSetStageSurvivalRto1(Session& session) {
   VorlexBGoS90BeginningCal(session);
 }
 
-namespace {
-
-// Day 0 under the carrying capacity: density mortality already acts on the
-// starting population.
-void startUnderCarryingCapacity(Session& session) {
+void startPopulationOfDayZero(Session& session, bool addCoefficientsAboveK) {
   Model& m = session.model();
+  if (!carryingCapacityInForce(session)) {
+    for (int age = 0; age <= m.LastAge; ++age)
+      for (int stage = 1; stage <= m.NrStage; ++stage)
+        m.PopN(age, stage) = m.InitialN(age, stage);
+    return;
+  }
   m.WeighedSize(0) = 0;
   for (int stage = 1; stage <= m.NrStage; ++stage)
     for (int age = 0; age <= m.LastAge; ++age)
       m.WeighedSize(0) += m.InitialN(age, stage) * m.WeighCoefAgeStage(age, stage);
   WorkOutDensityMortality(session, 0);
+  const double weighed = m.WeighedSize(0);
+  const double capacity = m.CarryingCapacity(0);
+  if (addCoefficientsAboveK && weighed > capacity) {
+    m.DensityMortality(0) =
+        m.DensityCoefBelowKDay(0) + divide(m.DensityCoefOverKDay(0) * (weighed - capacity), weighed);
+    if (m.DensityMortality(0) > 1)
+      m.DensityMortality(0) = 1;
+  }
   for (int age = 0; age <= m.LastAge; ++age)
     for (int stage = 1; stage <= m.NrStage; ++stage)
       m.PopN(age, stage) =
           (1 - m.DensityCoefAgeStage(age, stage) * m.DensityMortality(0)) * m.InitialN(age, stage);
 }
 
-bool isSampledStage(const Model& m, int stage) {
-  return m.SamplingStageFrom <= stage && stage <= m.SamplingStageTo;
-}
-
-} // namespace
-
-void VorlexBGoS90BeginningCal(Session& session) {
+void recordAgesOfDayZero(Session& session) {
   Model& m = session.model();
-  session.flow("In Public Sub VorlexBGoS90BeginningCal");
-  const bool physogastry = session.flags.Physogastry == "Yes";
-
-  m.TotalSize(0) = 0;
-  m.InitialSize = 0;
-  m.Day = 0;
-  m.TotalConsumption(0) = 0;
-  m.CumuConsumption(0) = 0;
-  m.StageSum(0) = 0;
-
-  if (carryingCapacityInForce(session)) {
-    startUnderCarryingCapacity(session);
-  } else {
-    for (int age = 0; age <= m.LastAge; ++age)
-      for (int stage = 1; stage <= m.NrStage; ++stage)
-        m.PopN(age, stage) = m.InitialN(age, stage);
-  }
-
   for (int age = 0; age <= m.LastAge; ++age) {
     for (int stage = 1; stage <= m.NrStage; ++stage) {
       m.AgeSize(age, 0) += m.PopN(age, stage) * m.StageSurvivalDay(stage, 0);
@@ -67,16 +54,10 @@ void VorlexBGoS90BeginningCal(Session& session) {
     m.InitialSize += m.InitialAgeN(age);
     m.TotalSize(0) += m.AgeSize(age, 0);
   }
-  if (session.flags.Physogastry != "No")
-    m.PhysoTotalSize(0) = m.TotalSize(0);
-  m.TotalSizeStart = m.TotalSize(0);
-  m.TotalSizeBase = m.TotalSize(0);
+}
 
-  for (int age = 0; age <= m.LastAge; ++age)
-    for (int stage = 1; stage <= m.NrStage; ++stage)
-      m.TotalConsumption(0) += m.Consumption(age, stage) * m.PopN(age, stage);
-  m.CumuConsumption(0) = m.TotalConsumption(0);
-
+void recordStagesOfDayZero(Session& session, bool physogastry) {
+  Model& m = session.model();
   for (int stage = 1; stage <= m.NrStage; ++stage) {
     for (int age = 0; age <= m.LastAge; ++age)
       m.StageSize(stage, 0) += m.PopN(age, stage);
@@ -94,22 +75,53 @@ void VorlexBGoS90BeginningCal(Session& session) {
       m.PhysoDailyWID(m.Day) = m.DailyWID(m.Day);
       m.PhysoWeighedSize(0) = m.WeighedSize(0);
     }
-    if (isSampledStage(m, stage)) {
+    if (m.SamplingStageFrom <= stage && stage <= m.SamplingStageTo) {
       m.VulnerableTotal(0) = m.TotalSize(0);
       m.VulnerableSize(0) += m.StageSize(stage, 0);
     }
   }
+}
 
-  m.CUMWID(0) = m.PreviousCumWID + m.DailyWID(0);
-  m.PhysoCUMWID(0) = m.CUMWID(0);
-
-  // The fractions come before the guard below: an empty population stops
-  // here, with 0 / 0, before its message can show.
+void recordFractionsOfDayZero(Session& session, bool physogastry) {
+  Model& m = session.model();
   for (int stage = 1; stage <= m.NrStage; ++stage) {
     m.StageFraction(stage, 0) = divide(m.StageSize(stage, 0), m.StageSum(0));
     if (physogastry)
       m.PhysoStageFraction(stage, 0) = divide(m.PhysoStageSize(stage, 0), m.PhysoStageSum(0));
   }
+}
+
+void VorlexBGoS90BeginningCal(Session& session) {
+  Model& m = session.model();
+  session.flow("In Public Sub VorlexBGoS90BeginningCal");
+  const bool physogastry = session.flags.Physogastry == "Yes";
+
+  m.TotalSize(0) = 0;
+  m.InitialSize = 0;
+  m.Day = 0;
+  m.TotalConsumption(0) = 0;
+  m.CumuConsumption(0) = 0;
+  m.StageSum(0) = 0;
+
+  startPopulationOfDayZero(session);
+  recordAgesOfDayZero(session);
+  if (session.flags.Physogastry != "No")
+    m.PhysoTotalSize(0) = m.TotalSize(0);
+  m.TotalSizeStart = m.TotalSize(0);
+  m.TotalSizeBase = m.TotalSize(0);
+
+  for (int age = 0; age <= m.LastAge; ++age)
+    for (int stage = 1; stage <= m.NrStage; ++stage)
+      m.TotalConsumption(0) += m.Consumption(age, stage) * m.PopN(age, stage);
+  m.CumuConsumption(0) = m.TotalConsumption(0);
+
+  recordStagesOfDayZero(session, physogastry);
+  m.CUMWID(0) = m.PreviousCumWID + m.DailyWID(0);
+  m.PhysoCUMWID(0) = m.CUMWID(0);
+
+  // The fractions come before the guard below: an empty population stops
+  // here, with 0 / 0, before its message can show.
+  recordFractionsOfDayZero(session, physogastry);
 
   if (m.TotalSize(0) <= 0) {
     const std::string text = "Initial population size = 0 !  Nonsense!";

@@ -167,6 +167,24 @@ struct Model {
   Table1<double> SizeBeforeControl{kLastDaySlot};
   Table1<double> SizeAfterControl{kLastDaySlot};
   Table1<double> ControlGap{20};
+  /// The weighed size in the stages' age ranges that the automatic rule
+  /// compares with ET of the day.
+  double AutoWeighedSum = 0;
+  /// Set once the automatic rule's test is in the flow record; it is named
+  /// there on its first call in a program run only.
+  bool AutoControlTestInFlow = false;
+
+  // Growth with harvest: the first and last harvest day, the day of each
+  // entry (HarvestDay(i) = i on harvest days, else 0), the rearing cost of
+  // a stage and whether it is harvested (1) or not; per day and stage the
+  // number available and its cost.
+  i16 HarvestFrom = 0;
+  i16 HarvestTo = 0;
+  Table1<i16> HarvestDay{200};
+  Table1<double> RearingCost{kLastStageSlot};
+  Table1<i16> HarvestStage{kLastStageSlot};
+  Table2<double> HarvestNumber{kLastDaySlot, kLastStageSlot};
+  Table2<double> HarvestCost{kLastDaySlot, kLastStageSlot};
   Table3<double> AutoControlSurvival{kLastStageSlot, 12, 5};
 
   // Parameters and results of the day step.

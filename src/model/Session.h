@@ -35,6 +35,7 @@ struct FileNames {
   std::string BaseName;
   std::string FlowFileName;
   std::string ReportFileName;
+  std::string HarvestFileName;
 };
 
 /// What the user sees of one control of a form: whether it can be clicked,
@@ -47,11 +48,13 @@ struct ControlState {
   std::string hint;
 };
 
-/// Number of the files that stay open: the report and the flow record.
+/// Numbers of the files: the report and the flow record stay open.
 inline constexpr int kWorkFile = 1;
 inline constexpr int kReportFile = 2;
 inline constexpr int kDataFile = 3;
 inline constexpr int kFlowFile = 4;
+/// The harvest file of growth with harvest, open during its run.
+inline constexpr int kHarvestFile = 5;
 
 /// One start of the program: the model, the flags, the open files and the
 /// user to ask. Every routine works on the one session it is given.

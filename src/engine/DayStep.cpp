@@ -1,0 +1,494 @@
+#include "engine/DayStep.h"
+
+#include "engine/Cells.h"
+#include "model/Arithmetic.h"
+#include "model/DensityMortality.h"
+#include "model/Session.h"
+#include "textio/NumberForms.h"
+
+#include <array>
+#include <chrono>
+#include <random>
+#include <vector>
+
+namespace vorlex {
+
+namespace {
+
+// One number for each stage, slot 0 unused.
+using PerStage = std::array<double, kLastStageSlot + 1>;
+
+constexpr PerStage kAllOnes = [] {
+  PerStage factors{};
+  factors.fill(1);
+  return factors;
+}();
+
+// A cell of the fecundity table that lays eggs.
+struct Fertile {
+  int age;
+  int stage;
+  double fecundity;
+};
+
+double lnGrowth(double now, double before) { return naturalLog(now + 1) - naturalLog(before + 1); }
+double logGrowth(double now, double before) { return log10Plus1(now) - log10Plus1(before); }
+
+// One projection of days 1..SimTime+1. The steps of a day come in a fixed
+// order. Every total is a sum of floating-point numbers, and each one takes
+// its addends in the order of the stage-by-stage, age-by-age walk of the
+// model, so that it comes out the same to the last bit:
+// - a sum runs in a local variable that starts from what the series holds;
+// - where each stage has a sum of its own, one walk over the ages fills
+//   them all side by side, each still taking its ages in ascending order;
+// - cells that only change their own value are walked age by age, the
+//   order in which the matrices are stored.
+// The records of a day are read from the next day's matrix: it equals
+// today's once taken over, and it is what they read on a day that keeps
+// the older matrix.
+class DayStep {
+public:
+  DayStep(Session& session, const DayStepRules& rules)
+      : session_(session), rules_(rules), m_(session.model()), lastAge_(m_.LastAge), stages_(m_.NrStage),
+        physogastry_(rules.physogastry && session.flags.Physogastry == "Yes"),
+        withCxj_(session.flags.WithCxj == "Yes"), n_(m_.PopN), next_(m_.NextN), physoN_(m_.PhysoN),
+        nextPhysoN_(m_.NextPhysoN), growth_(m_.GrowthRate), develop_(m_.DevelopRate),
+        fecundity_(m_.Fecundity), death_(m_.DeathRate), consumption_(m_.Consumption),
+        weigh_(m_.WeighCoefAgeStage), density_(m_.DensityCoefAgeStage), ageSize_(m_.AgeSize),
+        physoAgeSize_(m_.PhysoAgeSize) {
+    if (lastAge_ > m_.PopN.upper(0) || stages_ > m_.PopN.upper(1) || lastAge_ > m_.AgeSize.upper(0))
+      raise(ErrorCode::SubscriptOutOfRange);
+    // Cells without fecundity add exactly nothing to the eggs of a day;
+    // the fecundity table doesn't change during the run.
+    for (int j = 1; j <= stages_; ++j)
+      for (int x = 0; x <= lastAge_; ++x)
+        if (fecundity_(x, j) != 0)
+          fertile_.push_back({x, j, fecundity_(x, j)});
+  }
+
+  void run() {
+    if (rules_.flowAtStart)
+      session_.flow(rules_.flowAtStart);
+    if (rules_.listControls)
+      flowControls();
+    const int lastDay = checkedInt16(m_.SimTime + 1);
+    int t = 1;
+    for (; t <= lastDay; ++t) {
+      m_.Day = static_cast<i16>(t);
+      if (!projectDay(t))
+        return;
+    }
+    m_.Day = checkedInt16(t);
+  }
+
+private:
+  // One day; false when the population died out. A variant may move the
+  // day on to the last one.
+  bool projectDay(int& t) {
+    if (t > m_.AgeSize.upper(1))
+      raise(ErrorCode::SubscriptOutOfRange);
+    for (int j = 1; j <= stages_; ++j) {
+      survival_[j] = m_.StageSurvivalDay(j, t);
+      inflow_[j] = rules_.scheduledMortalities ? inflowSurvival(j, t) : 1;
+    }
+    echoSurvival_ = rules_.echoFirstControlDay && session_.flowOn() && t == m_.ControlDate(1);
+    clearNext();
+    if (rules_.scheduledMortalities)
+      overwinter(t);
+    reproduce(t);
+    develop(t);
+    if (rules_.releases)
+      release(t);
+    limitByCarryingCapacity(t);
+    if (rules_.afterDensity)
+      rules_.afterDensity(session_);
+    m_.TotalSize(t) = 0;
+    if (physogastry_)
+      m_.PhysoTotalSize(t) = 0;
+    consume(t);
+    takeNextDay(t, !(rules_.keepMatrixOnSimTime && t == m_.SimTime));
+    recordStages(t);
+    if (rules_.afterStageRecords)
+      rules_.afterStageRecords(session_);
+    m_.CUMWID(t) = m_.CUMWID(t - 1) + m_.DailyWID(t);
+    if (physogastry_)
+      m_.PhysoCUMWID(t) = m_.PhysoCUMWID(t - 1) + m_.PhysoDailyWID(t);
+    if (rules_.criticalDay)
+      for (int i = 1; i <= m_.NrControl; ++i)
+        if (t == m_.CriticalDay(i))
+          m_.WeighedAtCritical = m_.DailyWID(t);
+    if (physogastry_)
+      m_.PhysoWeighedLast = m_.PhysoDailyWID(t);
+    recordFractions(t);
+    if (rules_.skipAfterEmptyDay && m_.StageSum(t - 1) <= 0) {
+      t = checkedInt16(m_.SimTime + 1);
+      m_.Day = static_cast<i16>(t);
+    }
+    recordGrowthRates(t);
+    if (rules_.deaths)
+      m_.TotalDifference(t) = m_.TotalSize(t) - m_.TotalSize(t - 1);
+    if (m_.TotalSize(t) <= 0) {
+      stopOnExtinction(t);
+      return false;
+    }
+    m_.TotalGrowthLn(t - 1) = lnGrowth(m_.TotalSize(t), m_.TotalSize(t - 1));
+    if (physogastry_)
+      m_.PhysoTotalGrowthLn(t - 1) = lnGrowth(m_.PhysoTotalSize(t), m_.PhysoTotalSize(t - 1));
+    return true;
+  }
+
+  void flowControls() {
+    if (!session_.flowOn())
+      return;
+    session_.flow(" Beginning of VorlexDGosub160PopulationGrowth           NrControl =", m_.NrControl);
+    flowControlSchedule(session_);
+  }
+
+  // Rows 1..LastAge of the next day's matrix are written whole by the
+  // development step before anything reads them: the row of age 0 is the
+  // one that needs clearing.
+  void clearNext() {
+    for (int j = 1; j <= stages_; ++j)
+      next_(0, j) = 0;
+  }
+
+  // On the overwinter day the stage loses its share at every age but 0,
+  // before it reproduces. A random share is drawn once per run.
+  void overwinter(int t) {
+    if (session_.flags.ExtraMortalityOption != "Yes" || t != m_.OverwinterDay)
+      return;
+    std::mt19937 random(
+        static_cast<std::mt19937::result_type>(std::chrono::system_clock::now().time_since_epoch().count()));
+    for (int x = 1; x <= lastAge_; ++x) {
+      if (m_.OverwinterRandom == "Yes" && m_.OverwinterDrawn == "No") {
+        const double uniform = static_cast<double>(random()) / 4294967296.0; // [0, 1)
+        m_.OverwinterMortality = uniform * m_.OverwinterMortality;
+        m_.OverwinterDrawn = "Yes";
+      }
+      m_.PopN(x, m_.OverwinterStage) = (1 - m_.OverwinterMortality) * m_.PopN(x, m_.OverwinterStage);
+    }
+  }
+
+  // Eggs of the day, from the parents' stage survival of the day (or the
+  // egg stage's, where the variant says so); the egg stage's own survival
+  // does not touch them.
+  void reproduce(int t) {
+    if (echoSurvival_)
+      for (int j = 1; j <= stages_; ++j)
+        session_.flow("Day =", t, "Survival rat of stage ", j, " is ", survival_[j]);
+    const bool lowered = rules_.scheduledMortalities && m_.LowFecundity == "Yes" &&
+                         m_.LowFecundityFrom <= t && t <= m_.LowFecundityTo;
+    const double factor = m_.LowFecundityFactor;
+    double eggs = next_(0, 1);
+    if (!rules_.eggsTakeParentSurvival)
+      for (const Fertile& cell : fertile_)
+        eggs += cell.fecundity * n_(cell.age, cell.stage) * survival_[1];
+    else if (lowered)
+      for (const Fertile& cell : fertile_)
+        eggs += cell.fecundity * n_(cell.age, cell.stage) * factor * survival_[cell.stage];
+    else
+      for (const Fertile& cell : fertile_)
+        eggs += cell.fecundity * n_(cell.age, cell.stage) * survival_[cell.stage];
+    next_(0, 1) = eggs;
+  }
+
+  // The survival of the inflow into stage j on day t: the first extra
+  // mortality rules outright while it runs, the second only outside it.
+  double inflowSurvival(int j, int t) const {
+    if (m_.ExtraFrom1 <= t && t <= m_.ExtraTo1)
+      return j == m_.ExtraStage1 ? 1 - m_.ExtraMortality1 : 1;
+    if (m_.ExtraFrom2 <= t && t <= m_.ExtraTo2 && j == m_.ExtraStage2)
+      return 1 - m_.ExtraMortality2;
+    return 1;
+  }
+
+  // Under physogastry the last immature stage's individuals ready to move
+  // to the female stage are counted first, from today's matrix.
+  void develop(int t) {
+    const int m = stages_;
+    if (physogastry_ && m - 2 >= 1) {
+      double ready = m_.BurstReadySize(t);
+      for (int x = 1; x <= lastAge_; ++x)
+        ready += develop_(x, m - 2) * n_(x, m - 2);
+      m_.BurstReadySize(t) = ready;
+    }
+    if (echoSurvival_)
+      for (int j = 1; j <= m; ++j)
+        session_.flow("Day = ", t, "stage =", j, "Stage; survival; Rate = ", survival_[j]);
+    grow(n_, next_, inflow_);
+    if (physogastry_)
+      grow(physoN_, nextPhysoN_, kAllOnes);
+  }
+
+  // The next day's matrix from today's, ages 1..LastAge; the oldest age has
+  // no successor. Extra mortality strikes the inflow only, never the
+  // individuals that stay; multiplying by 1 changes nothing.
+  void grow(const Cells& from, const Cells& to, const PerStage& inflow) const {
+    const int m = stages_;
+    for (int x = 1; x <= lastAge_; ++x) {
+      const double* n = from.row(x - 1);
+      const double* g = growth_.row(x - 1);
+      const double* d = develop_.row(x - 1);
+      double* next = to.row(x);
+      if (m < 1)
+        continue;
+      next[1] = n[1] * g[1] * survival_[1];
+      for (int j = 2; j < m; ++j)
+        next[j] = (d[j - 1] * n[j - 1] * inflow[j] + n[j] * g[j]) * survival_[j];
+      if (m > 1)
+        next[m] = (d[m - 1] * n[m - 2] + n[m] * g[m]) * survival_[m];
+    }
+  }
+
+  // All ten release slots are looked at, whatever the number of releases;
+  // a release day held as text never matches.
+  void release(int t) {
+    if (m_.NrRelease == 0)
+      return;
+    for (int r = 1; r <= 10; ++r) {
+      const Value& day = m_.ReleaseDay(r);
+      if (!day.isNumber() || day.toNumber() != t)
+        continue;
+      for (int x = 0; x <= lastAge_; ++x)
+        for (int j = 1; j <= stages_; ++j) {
+          next_(x, j) += m_.ReleaseN(r, x, j);
+          if (physogastry_)
+            nextPhysoN_(x, j) += m_.ReleaseN(r, x, j);
+        }
+    }
+  }
+
+  void limitByCarryingCapacity(int t) {
+    if (!carryingCapacityInForce(session_))
+      return;
+    double weighed = 0;
+    double physoWeighed = 0;
+    for (int j = 1; j <= stages_; ++j)
+      for (int x = 0; x <= lastAge_; ++x) {
+        weighed += next_(x, j) * weigh_(x, j);
+        if (physogastry_)
+          physoWeighed += nextPhysoN_(x, j) * weigh_(x, j);
+      }
+    m_.WeighedSize(t) = weighed;
+    if (physogastry_)
+      m_.PhysoWeighedSize(t) = physoWeighed;
+    WorkOutDensityMortality(session_, t);
+    const double level = m_.DensityMortality(t);
+    for (int x = 0; x <= lastAge_; ++x)
+      for (int j = 1; j <= stages_; ++j) {
+        next_(x, j) = (1 - density_(x, j) * level) * next_(x, j);
+        if (physogastry_)
+          nextPhysoN_(x, j) = (1 - density_(x, j) * level) * nextPhysoN_(x, j);
+      }
+  }
+
+  void consume(int t) {
+    if (!withCxj_)
+      return;
+    double total = m_.TotalConsumption(t);
+    for (int x = 0; x <= lastAge_; ++x)
+      for (int j = 1; j <= stages_; ++j)
+        total += consumption_(x, j) * next_(x, j);
+    m_.TotalConsumption(t) = total;
+    m_.CumuConsumption(t) = m_.CumuConsumption(t - 1) + total;
+  }
+
+  // The next day's matrix becomes today's (unless the variant keeps the
+  // older one), and the sizes of its ages are summed in the same walk.
+  void takeNextDay(int t, bool takeOver) {
+    double total = m_.TotalSize(t);
+    for (int x = 0; x <= lastAge_; ++x) {
+      const double* next = next_.row(x);
+      double* n = n_.row(x);
+      double size = ageSize_(x, t);
+      for (int j = 1; j <= stages_; ++j) {
+        if (takeOver)
+          n[j] = next[j];
+        size += next[j];
+      }
+      ageSize_(x, t) = size;
+      total += size;
+    }
+    m_.TotalSize(t) = finite(total);
+    if (!physogastry_)
+      return;
+    double physoTotal = m_.PhysoTotalSize(t);
+    for (int x = 0; x <= lastAge_; ++x) {
+      const double* next = nextPhysoN_.row(x);
+      double* n = physoN_.row(x);
+      double size = physoAgeSize_(x, t);
+      for (int j = 1; j <= stages_; ++j) {
+        n[j] = next[j];
+        size += n[j];
+      }
+      physoAgeSize_(x, t) = size;
+      physoTotal += size;
+    }
+    m_.PhysoTotalSize(t) = physoTotal;
+  }
+
+  void recordStages(int t) {
+    m_.StageSum(t) = 0;
+    if (rules_.weighedSizeFromZero)
+      m_.WeighedSize(t) = 0;
+    if (physogastry_) {
+      m_.PhysoStageSum(t) = 0;
+      m_.PhysoWeighedSize(t) = 0;
+    }
+    PerStage sizes{}, deaths{};
+    for (int j = 1; j <= stages_; ++j) {
+      sizes[j] = m_.StageSize(j, t);
+      deaths[j] = m_.StageDeath(t, j);
+    }
+    if (rules_.deaths)
+      for (int x = 0; x <= lastAge_; ++x) {
+        const double* n = next_.row(x);
+        const double* rate = death_.row(x);
+        for (int j = 1; j <= stages_; ++j) {
+          sizes[j] += n[j];
+          deaths[j] += n[j] * rate[j];
+        }
+      }
+    else
+      for (int x = 0; x <= lastAge_; ++x) {
+        const double* n = next_.row(x);
+        for (int j = 1; j <= stages_; ++j)
+          sizes[j] += n[j];
+      }
+    PerStage physoSizes{};
+    if (physogastry_) {
+      for (int j = 1; j <= stages_; ++j)
+        physoSizes[j] = m_.PhysoStageSize(j, t);
+      for (int x = 0; x <= lastAge_; ++x) {
+        const double* n = physoN_.row(x);
+        for (int j = 1; j <= stages_; ++j)
+          physoSizes[j] += n[j];
+      }
+    }
+
+    for (int j = 1; j <= stages_; ++j) {
+      const double size = sizes[j];
+      m_.StageSize(j, t) = size;
+      if (rules_.deaths) {
+        const double death = deaths[j];
+        m_.StageDeath(t, j) = death;
+        m_.LogStageDeath(t, j) = log10Plus1(death);
+        m_.CumuStageDeath(t, j) = m_.CumuStageDeath(t - 1, j) + death;
+        m_.LogCumuStageDeath(t, j) = log10Plus1(m_.CumuStageDeath(t, j));
+        m_.TotalDeath(t) += death;
+        m_.LogTotalDeath(t) = log10Plus1(m_.TotalDeath(t));
+      }
+      m_.StageSum(t) += size;
+      m_.DailyWID(t) += size * m_.WeighCoef(j);
+      m_.WeighedSize(t) += size * m_.WeighCoef(j);
+      for (int i = 1; i <= m_.NrWeakFactor; ++i)
+        m_.WeakSize(i, t) += size * m_.WeakCoef(i, j);
+
+      const double physoSize = physoSizes[j];
+      if (physogastry_) {
+        m_.PhysoStageSize(j, t) = physoSize;
+        m_.PhysoStageSum(t) += physoSize;
+        m_.PhysoDailyWID(t) += physoSize * m_.WeighCoef(j);
+        // The weighed size of the day takes the stage in a second time:
+        // under physogastry it is meant to be larger than its name says.
+        m_.WeighedSize(t) += size * m_.WeighCoef(j);
+        for (int i = 1; i <= m_.NrWeakFactor; ++i)
+          m_.PhysoWeakSize(i, t) += physoSize * m_.WeakCoef(i, j);
+      }
+
+      if (m_.SamplingStageFrom <= j && j <= m_.SamplingStageTo) {
+        m_.VulnerableTotal(t) = m_.TotalSize(t);
+        m_.VulnerableSize(t) += size;
+        if (physogastry_) {
+          m_.PhysoVulnerableTotal(t) = m_.PhysoTotalSize(t);
+          m_.VulnerableSize(t) += physoSize;
+        }
+      }
+    }
+  }
+
+  // Fractions of a day without individuals keep what they held.
+  void recordFractions(int t) {
+    for (int j = 1; j <= stages_; ++j) {
+      if (m_.StageSum(t) <= 0)
+        break;
+      m_.StageFraction(j, t) = divide(m_.StageSize(j, t), m_.StageSum(t));
+    }
+    if (!physogastry_)
+      return;
+    for (int j = 1; j <= stages_; ++j) {
+      if (m_.PhysoStageSum(t) <= 0)
+        break;
+      m_.PhysoStageFraction(j, t) = divide(m_.PhysoStageSize(j, t), m_.PhysoStageSum(t));
+    }
+  }
+
+  // The growth from day t-1 to day t stands at t-1.
+  void recordGrowthRates(int t) {
+    const int s = t - 1;
+    m_.StageSumGrowthLn(s) = lnGrowth(m_.StageSum(t), m_.StageSum(s));
+    m_.StageSumGrowthLog(s) = logGrowth(m_.StageSum(t), m_.StageSum(s));
+    for (int j = 1; j <= stages_; ++j) {
+      m_.StageGrowthLn(j, s) = lnGrowth(m_.StageSize(j, t), m_.StageSize(j, s));
+      m_.StageGrowthLog(j, s) = logGrowth(m_.StageSize(j, t), m_.StageSize(j, s));
+    }
+    if (!physogastry_)
+      return;
+    m_.BurstReadyGrowthLn(s) = lnGrowth(m_.BurstReadySize(t), m_.BurstReadySize(s));
+    m_.BurstReadyGrowthLog(s) = logGrowth(m_.BurstReadySize(t), m_.BurstReadySize(s));
+    for (int j = 1; j <= stages_; ++j) {
+      m_.PhysoStageGrowthLn(j, s) = lnGrowth(m_.PhysoStageSize(j, t), m_.PhysoStageSize(j, s));
+      m_.PhysoStageGrowthLog(j, s) = logGrowth(m_.PhysoStageSize(j, t), m_.PhysoStageSize(j, s));
+    }
+  }
+
+  // Extinction is no failure: the user is told, and the reports go on with
+  // the series as far as they were filled.
+  void stopOnExtinction(int t) {
+    if (session_.files.isOpen(kReportFile))
+      session_.files.output(kReportFile).print(" Population size = 0 !!! Stop! ");
+    session_.prompter().inform(rules_.extinctionText(m_, t), "Population size=0");
+  }
+
+  Session& session_;
+  const DayStepRules& rules_;
+  Model& m_;
+  const int lastAge_;
+  const int stages_;
+  const bool physogastry_;
+  const bool withCxj_;
+  bool echoSurvival_ = false;
+  PerStage survival_{}; // R(j,t) of the day
+  PerStage inflow_{};   // survival of the inflow under extra mortality
+  std::vector<Fertile> fertile_;
+  Cells n_, next_, physoN_, nextPhysoN_;
+  Cells growth_, develop_, fecundity_, death_, consumption_, weigh_, density_;
+  Cells ageSize_, physoAgeSize_;
+};
+
+} // namespace
+
+void flowControlSchedule(Session& session) {
+  const Model& m = session.model();
+  for (int i = 1; i <= m.NrControl; ++i) {
+    int k = 0;
+    const int lastDay = toInt16(m.ControlDate(i) + m.ControlDuration(i) - 1);
+    for (int day = m.ControlDate(i); day <= lastDay; ++day) {
+      ++k;
+      session.flow("            First control date =", m.ControlDate(i));
+      for (int stage = 1; stage <= m.NrStage; ++stage) {
+        session.flow("            Stage mortality rate =", m.ControlMortality(stage, k, i));
+        session.flow("            Stage survival rate =", m.StageSurvivalDay(stage, day));
+      }
+    }
+  }
+}
+
+std::string extinctionOnDay(const Model& m, int t) {
+  return "Simulation time =" + blankLed(m.SimTime) + ". At t=" + blankLed(t) +
+         ". Population size=0 (D)! Stop simulation!";
+}
+
+void runDaySteps(Session& session, const DayStepRules& rules) { DayStep(session, rules).run(); }
+
+} // namespace vorlex

@@ -1,0 +1,90 @@
+#include "strategies/ControlledGrowth.h"
+
+#include "charts/ChartFamily.h"
+#include "datafile/DataFileWriter.h"
+#include "engine/AutoControl.h"
+#include "engine/DayStep.h"
+#include "engine/PopulationGrowth.h"
+#include "model/Session.h"
+#include "reports/CharacterPlots.h"
+#include "reports/ControlPages.h"
+#include "reports/FigureFiles.h"
+#include "reports/TitlePage.h"
+#include "strategies/ControlledStart.h"
+#include "textio/NumberForms.h"
+
+namespace vorlex {
+
+namespace {
+
+void setMarks(Session& session, const char* optManagement, const char* growthMode, const char* fixedMark,
+              const char* autoMark) {
+  session.controls["cmdInputLTdata"].enabled = false;
+  RunFlags& flags = session.flags;
+  flags.OptManagement = optManagement;
+  flags.GrowthMode = growthMode;
+  flags.ControlFixedMark = fixedMark;
+  flags.ControlAutoMark = autoMark;
+  Model& m = session.model();
+  m.SeriesIndex = 0;
+  m.DailyWID(m.Day) = 0;
+}
+
+void noteLastDay(Session& session) {
+  const Model& m = session.model();
+  session.lastDayReached = m.Day <= m.SimTime ? m.Day : m.SimTime;
+}
+
+// What every controlled run writes once the report is done.
+void writeDerivedFilesAndFigures(Session& session) {
+  WriteDataFileForVorlexA(session);
+  WriteMatrixNforTimeT(session);
+  session.mainChart = ShowStageStructure(session);
+  SaveGraphicData(session);
+}
+
+} // namespace
+
+void PredefinedControl(Session& session) {
+  const Model& m = session.model();
+  session.flow("OptManagement=", session.flags.OptManagement);
+  session.flow("In Public Sub PredefinedControl********* Predefined control *************");
+  session.flow("            NrControl =", m.NrControl);
+  flowControlSchedule(session);
+  setMarks(session, "OptPredefinedControl", "AUTOCONTROL", "FIXED", "AUTOCONTROL");
+
+  VorlexF1(session);
+  VorlexF2(session);
+  VorlexDPopulationGrowth(session);
+  noteLastDay(session);
+  // The title page follows the projection in this run.
+  VorlexCPrintTitlePageAndBasicInfo(session);
+  VorlexEPrintResults(session);
+  session.files.close(kReportFile);
+  writeDerivedFilesAndFigures(session);
+  session.controls["Command4"].enabled = true;
+}
+
+void AutoControlBasedonET(Session& session) {
+  Model& m = session.model();
+  session.flow("OptManagement=", session.flags.OptManagement);
+  session.flow("In Public Sub AutoControlBasedonET *(reset stage survival rate **");
+  // Controls come from the rule alone: the schedule's survival is dropped.
+  const int lastDay = checkedInt16(m.SimTime + 1);
+  for (int j = 1; j <= m.NrStage; ++j)
+    for (int t = 1; t <= lastDay; ++t)
+      m.StageSurvivalDay(j, t) = 1;
+  setMarks(session, "OptAutoControlBasedOnET", "AUTOCONTROL", "", "AUTOCONTROL");
+
+  VorlexF2AutoControl(session);
+  VorlexDAutoControl(session);
+  noteLastDay(session);
+  VorlexCPrintTitlePageAndBasicInfo(session);
+  VorlexEPrintResults(session);
+  PrintSizeBeforeAndAfterControl(session);
+  session.files.close(kReportFile);
+  writeDerivedFilesAndFigures(session);
+  session.controls["Command4"].enabled = true;
+}
+
+} // namespace vorlex

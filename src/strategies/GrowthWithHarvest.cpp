@@ -1,0 +1,86 @@
+#include "charts/ChartFamily.h"
+#include "datafile/DataFileWriter.h"
+#include "engine/PopulationGrowth.h"
+#include "model/InitialCalculation.h"
+#include "model/Session.h"
+#include "reports/CharacterPlots.h"
+#include "reports/DeathFiles.h"
+#include "reports/FigureFiles.h"
+#include "reports/TitlePage.h"
+#include "strategies/ControlledGrowth.h"
+#include "textio/NumberForms.h"
+#include "textio/OutputFile.h"
+
+namespace vorlex {
+
+namespace {
+
+// The harvest boxes show no prompt of their own: their sentences are kept
+// where nothing displays them.
+i16 askHarvestDay(Session& session, const std::string& title, const std::string& defaultText) {
+  return toInt16(numberEntry(session.prompter().askValue("", title, defaultText)));
+}
+
+std::string rule66(char c) { return " " + std::string(66, c); }
+
+// The head of the harvest file: the days asked and each stage's rearing
+// cost and whether it is harvested.
+void writeHarvestStages(Session& session) {
+  const Model& m = session.model();
+  OutputFile& out = session.files.output(kHarvestFile);
+  out.print(" Harvest stage information");
+  out.print(" Harvest begin date: ", m.HarvestFrom);
+  out.print(" Harvest end date: ", m.HarvestTo);
+  out.print(rule66('='));
+  out.print("    Stage              Rearing cost           Harvest (1=Yes, 2=No)");
+  out.print(rule66('-'));
+  for (int j = 1; j <= m.NrStage; ++j)
+    out.print(Tab{4}, m.StageName(j), Tab{23}, m.RearingCost(j), Tab{55}, m.HarvestStage(j));
+  out.print(rule66('-'));
+}
+
+} // namespace
+
+void GrowthWithHarvest(Session& session) {
+  Model& m = session.model();
+  RunFlags& flags = session.flags;
+  session.flow("OptManagement=", flags.OptManagement);
+  session.flow("In Public Sub GrowthWithHarvest()");
+  session.names.HarvestFileName = session.names.BaseName + "_0_cost and harvest.txt";
+  session.files.openOutput(kHarvestFile, session.names.HarvestFileName);
+
+  m.HarvestFrom = askHarvestDay(session, "Harvest begin date =?", "1");
+  m.HarvestTo = askHarvestDay(session, "Harvest end date =?", digits(m.SimTime));
+  for (int i = m.HarvestFrom; i <= m.HarvestTo; ++i)
+    m.HarvestDay(i) = static_cast<i16>(i);
+  session.flow("In Public Sub GrowthWithHarvest********* Population growth with harvest *************");
+  // In a harvest run the weighing coefficient is the rearing cost and the
+  // density coefficient says whether the stage is harvested.
+  for (int j = 1; j <= m.NrStage; ++j) {
+    m.RearingCost(j) = m.WeighCoef(j);
+    m.HarvestStage(j) = toInt16(m.DensityCoef(j));
+  }
+  writeHarvestStages(session);
+
+  session.controls["cmdInputLTdata"].enabled = false;
+  flags.OptManagement = "OptGrowthWithHarvest";
+  flags.GrowthMode = flags.ControlFixedMark = flags.ControlAutoMark = "Harvest";
+  m.SeriesIndex = 0;
+  m.DailyWID(m.Day) = 0;
+
+  VorlexBSetStageSurvivalRto1(session);
+  VorlexCPrintTitlePageAndBasicInfo(session);
+  VorlexDPopulationGrowth(session);
+  session.lastDayReached = m.Day <= m.SimTime ? m.Day : m.SimTime;
+  VorlexEPrintResults(session);
+  session.files.close(kReportFile);
+  WriteDataFileForVorlexA(session);
+  WriteMatrixNforTimeT(session);
+  PrintCxj(session);
+  session.mainChart = ShowStageStructure(session);
+  SaveGraphicData(session);
+  session.controls["Command4"].enabled = true;
+  session.files.close(kHarvestFile);
+}
+
+} // namespace vorlex
