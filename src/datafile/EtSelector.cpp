@@ -6,6 +6,22 @@
 
 namespace vorlex {
 
+namespace {
+
+// One stretch of a stepwise threshold. Both ends are day numbers and are
+// rounded to whole days, ties to even, each by itself: with c = 20.5 the
+// first stretch ends on day 20 and the next begins on round(21.5) = 22, so
+// day 21 keeps what it held. An end beyond 16 bits stops with Overflow
+// before the stretch is written.
+void fillEtDays(Model& m, double first, double last, double value) {
+  const int from = toInt16(first);
+  const int to = toInt16(last);
+  for (int t = from; t <= to; ++t)
+    m.EtDay(t) = value;
+}
+
+} // namespace
+
 EtForm classifyEtSelector(const std::string& selector, bool withCxj) {
   if (selector == kEtTwoPeriodsText)
     return EtForm::TwoPeriods;
@@ -31,7 +47,6 @@ void readEtFunction(Session& session, bool withCxj) {
   ItemReader& in = session.files.input(kDataFile);
   m.Descriptionx = in.readText();
   m.EtSelector = classifyEtSelector(m.Descriptionx, withCxj);
-  const int lastDay = checkedInt16(m.SimTime + 1);
 
   switch (m.EtSelector) {
   case EtForm::TwoPeriods: {
@@ -39,11 +54,8 @@ void readEtFunction(Session& session, bool withCxj) {
     m.EtC = in.readNumber();
     m.EtD = in.readNumber();
     m.EtE = in.readNumber();
-    const int c = toInt16(m.EtC);
-    for (int t = 0; t <= c; ++t)
-      m.EtDay(t) = m.EtD;
-    for (int t = c + 1; t <= lastDay; ++t)
-      m.EtDay(t) = m.EtE;
+    fillEtDays(m, 0, m.EtC, m.EtD);
+    fillEtDays(m, m.EtC + 1, m.SimTime + 1, m.EtE);
     break;
   }
   case EtForm::ThreePeriods: {
@@ -53,14 +65,9 @@ void readEtFunction(Session& session, bool withCxj) {
     m.EtE = in.readNumber();
     m.EtF = in.readNumber();
     m.EtG = in.readNumber();
-    const int c = toInt16(m.EtC);
-    const int e = toInt16(m.EtE);
-    for (int t = 0; t <= c; ++t)
-      m.EtDay(t) = m.EtD;
-    for (int t = c + 1; t <= e; ++t)
-      m.EtDay(t) = m.EtF;
-    for (int t = e + 1; t <= lastDay; ++t)
-      m.EtDay(t) = m.EtG;
+    fillEtDays(m, 0, m.EtC, m.EtD);
+    fillEtDays(m, m.EtC + 1, m.EtE, m.EtF);
+    fillEtDays(m, m.EtE + 1, m.SimTime + 1, m.EtG);
     break;
   }
   case EtForm::Logistic:
@@ -68,7 +75,7 @@ void readEtFunction(Session& session, bool withCxj) {
     m.EtC = in.readNumber();
     m.EtD = in.readNumber();
     m.EtA = in.readNumber();
-    for (int t = 0; t <= lastDay; ++t)
+    for (int t = 0, lastDay = checkedInt16(m.SimTime + 1); t <= lastDay; ++t)
       m.EtDay(t) = divide(m.EtB, 1 + m.EtC * exponential(m.EtD * t)) + m.EtA;
     break;
   case EtForm::None:

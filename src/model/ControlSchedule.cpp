@@ -25,6 +25,11 @@ std::string readEchoedDescription(Session& session) {
   return text;
 }
 
+// The last day of control i. The duration may be fractional; the end is
+// then rounded to a whole day, ties to even, as the day counter is: a
+// control on day 10 lasting 2.5 days acts on days 10, 11 and 12.
+int lastControlDay(const Model& m, int i) { return toInt16(m.ControlDate(i) + m.ControlDuration(i) - 1); }
+
 } // namespace
 
 void InputAdditionalRelease(Session& session) {
@@ -69,8 +74,7 @@ void VorlexAGosub1270(Session& session) {
     m.ControlDuration(i) = in.readNumber();
     readEchoedDescription(session);
     int k = 0;
-    const double lastControlDay = m.ControlDate(i) + m.ControlDuration(i) - 1;
-    for (int day = m.ControlDate(i); day <= lastControlDay; day = checkedInt16(day + 1)) {
+    for (int day = m.ControlDate(i), last = lastControlDay(m, i); day <= last; day = checkedInt16(day + 1)) {
       ++k;
       for (int stage = 1; stage <= m.NrStage; ++stage) {
         m.ControlMortality(stage, k, i) = in.readNumber();
@@ -82,8 +86,7 @@ void VorlexAGosub1270(Session& session) {
     session.flow("            NrControl =", m.NrControl);
     for (int i = 1; i <= m.NrControl; ++i) {
       session.flow("            First control date =", m.ControlDate(i));
-      const double lastControlDay = m.ControlDate(i) + m.ControlDuration(i) - 1;
-      for (int day = m.ControlDate(i); day <= lastControlDay; ++day)
+      for (int day = m.ControlDate(i), last = lastControlDay(m, i); day <= last; ++day)
         for (int stage = 1; stage <= m.NrStage; ++stage)
           session.flow("            Stage survival rate =", m.StageSurvivalDay(stage, day));
     }

@@ -4,6 +4,8 @@
 #include <gtest/gtest.h>
 
 #include <cmath>
+#include <utility>
+#include <vector>
 
 namespace vorlex::testing {
 namespace {
@@ -261,6 +263,31 @@ TEST_F(ExampleVariant, ControlDurationZeroOrAboveTenDays) {
   EXPECT_EQ(errorOf([&] { t.read(eleven); }).number(), 9);
 }
 
+// The last day of a control with a fractional duration is rounded, ties
+// to even: from day 10, 1.5 days end on round(10.5) = 10, 2.5 days on
+// round(11.5) = 12, and one line of mortalities is read for each day.
+TEST_F(ExampleVariant, FractionalControlDurationEndsOnARoundedDay) {
+  const std::string mortality = " 0 , .9 , .9 , .9 , .9 \r\n";
+  const struct {
+    const char* duration;
+    int lastDay;
+  } cases[] = {{"1.5", 10}, {"2.5", 12}};
+  for (const auto& c : cases) {
+    std::string text =
+        replaced(moth, "\"Pyrethrins\",1\r\n", std::string("\"Pyrethrins\",") + c.duration + "\r\n");
+    std::string lines;
+    for (int day = 10; day <= c.lastDay; ++day)
+      lines += mortality;
+    text = replaced(text, mortality, lines);
+    TestSession t;
+    t.read(text);
+    EXPECT_EQ(t.m.LastAgeOfFile, 45) << c.duration; // the items behind stay in step
+    for (int day = 9; day <= 13; ++day)
+      EXPECT_DOUBLE_EQ(t.m.StageSurvivalDay(2, day), day >= 10 && day <= c.lastDay ? 1 - .9 : 1)
+          << c.duration << ", day " << day;
+  }
+}
+
 TEST_F(ExampleVariant, ControlMortalityOfOneKeepsTheDayAtZero) {
   TestSession t;
   t.read(replaced(moth, " 0 , .9 , .9 , .9 , .9 ", " 0 , 1 , .9 , .9 , .9 "));
@@ -300,16 +327,40 @@ TEST_F(ExampleVariant, WithCxjReaderDoesNotKnowThePlainSelector) {
   EXPECT_EQ(right.m.LastAgeOfFile, 45);
 }
 
-TEST_F(ExampleVariant, ThreePeriodEtFunction) {
-  std::string text = replaced(moth, kEtLogisticText, kEtThreePeriodsText);
-  text = replaced(text, "20,1,-.2,10\r\n", "3,2,5,4.5,7,9\r\n");
-  TestSession t(10);
-  t.read(text);
-  EXPECT_EQ(t.m.EtSelector, EtForm::ThreePeriods);
-  // e = 4.5 rounds to 4, ties to even.
-  const double expected[] = {5, 5, 5, 7, 7, 9, 9, 9, 9, 9, 9, 9, 0};
-  for (int day = 0; day <= 12; ++day)
-    EXPECT_EQ(t.m.EtDay(day), expected[day]) << day;
+// Each end of a stepwise stretch is rounded to a whole day by itself, ties
+// to even, so a .5 end can leave a day between two stretches untouched, or
+// let two stretches meet on one day. Days marked -1 keep their earlier value.
+TEST(EtStretches, EachEndIsRoundedToADayOfItsOwn) {
+  struct Case {
+    const char* selector;
+    const char* numbers;
+    std::vector<std::pair<int, double>> days;
+    int error;
+  };
+  const Case cases[] = {
+      {kEtThreePeriodsText, "3,20.5,5,41.5,7,9",
+       {{0, 5}, {20, 5}, {21, -1}, {22, 7}, {41, 7}, {42, 9}, {61, 9}, {62, -1}}, 0},
+      {kEtTwoPeriodsText, "2,24.5,25,35", {{24, 25}, {25, -1}, {26, 35}, {61, 35}, {62, -1}}, 0},
+      {kEtTwoPeriodsText, "2,25.5,25,35", {{25, 25}, {26, 35}}, 0},
+      // An end beyond 16 bits stops the reader; the stretches before it stay.
+      {kEtThreePeriodsText, "3,2,5,40000,7,9", {{2, 5}, {3, -1}}, 6},
+  };
+  for (const Case& c : cases) {
+    TestSession t(60);
+    for (int day = 0; day <= 1005; ++day)
+      t.m.EtDay(day) = -1;
+    t.session->files.attachInput(kDataFile,
+                                 ItemReader(std::string("\"") + c.selector + "\"\r\n" + c.numbers + "\r\n"));
+    int error = 0;
+    try {
+      readEtFunction(*t.session, false);
+    } catch (const RuntimeError& stop) {
+      error = stop.number();
+    }
+    EXPECT_EQ(error, c.error) << c.numbers;
+    for (const auto& [day, value] : c.days)
+      EXPECT_EQ(t.m.EtDay(day), value) << c.numbers << ", day " << day;
+  }
 }
 
 TEST_F(ExampleVariant, UnknownSelectorLeavesEtAtZero) {
