@@ -130,10 +130,9 @@ void writeLogVulnerableSizeFile(Session& session) {
   if (released(m)) {
     // Kept on purpose, unlike the file above: after a release this file
     // holds rows of zeros only, ReleaseDate with plain time and ReleaseDate
-    // with shifted time.
-    const auto zeroRow = [&](int step) {
-      out.print(timeColumn(m, step), ",", joined(1, m.NrWeakFactor, [](int) { return raw(0); }));
-    };
+    // with shifted time. They end with the blank of every row, behind the
+    // one of " 0 ".
+    const auto zeroRow = [&](int step) { writeVulnerableRow(out, m, step, [](int) { return raw(0); }); };
     for (int t = 0; t < m.ReleaseDate; ++t)
       zeroRow(t);
     for (int t = 0; t < m.ReleaseDate; ++t)

@@ -141,10 +141,11 @@ TEST_F(StageFigureFiles, AfterAReleaseTheVulnerableFilesDisagreeOnPurpose) {
   EXPECT_EQ(run.figure("4A-Fig-Vulnerable size"),
             std::string(kVulnerableTitle) + kTwoFactors +
                 "0,9,0 \r\n1,99,1.5 \r\n2,0,0 \r\n3,9,0 \r\n4,99,1.5 \r\n");
-  // Zeros only: three rows with the plain time and three with the shifted.
+  // Zeros only: three rows with the plain time and three with the shifted,
+  // each " 0 " and the blank that ends every row.
   EXPECT_EQ(run.figure("4B-Fig-log Vulnerable size"),
             std::string(kLogVulnerableTitle) + kTwoFactors +
-                "0, 0 , 0 \r\n1, 0 , 0 \r\n2, 0 , 0 \r\n3, 0 , 0 \r\n4, 0 , 0 \r\n5, 0 , 0 \r\n");
+                "0, 0 , 0  \r\n1, 0 , 0  \r\n2, 0 , 0  \r\n3, 0 , 0  \r\n4, 0 , 0  \r\n5, 0 , 0  \r\n");
 }
 
 TEST_F(StageFigureFiles, AStageCountOfTwelveReachesTheLastStageSlot) {
