@@ -84,7 +84,7 @@ void VorlexAGosub900(Session& session) {
   for (int i = 1; i <= m.NrControl; ++i) {
     session.flow("            First control date =", m.ControlDate(i));
     int k = 0;
-    const double lastControlDay = m.ControlDate(i) + m.ControlDuration(i) - 1;
+    const int lastControlDay = toInt16(m.ControlDate(i) + m.ControlDuration(i) - 1);
     for (int day = m.ControlDate(i); day <= lastControlDay; ++day) {
       ++k;
       for (int stage = 1; stage <= last; ++stage) {
