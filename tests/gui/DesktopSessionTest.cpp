@@ -273,6 +273,68 @@ private slots:
       QVERIFY2(contentsOf(s.dir.filePath(name)) == contentsOf(cliDir.filePath(name)), qPrintable(name));
   }
 
+  // Each controlled strategy clicked on its option writes what the command
+  // line writes for it; the harvest boxes are the program's own dialogs.
+  void controlledStrategiesRunFromTheirOptions() {
+    struct Case {
+      const char* option;
+      const char* strategy;
+    };
+    for (const Case& c : {Case{"Option2", "predefined"}, Case{"Option3", "auto-et"}, Case{"Option6", "harvest"}}) {
+      QTemporaryDir cliDir;
+      const QString cliData = testing::copyOfExample(cliDir);
+      QProcess cli;
+      cli.start(QStringLiteral(VORLEX_CLI), {"run", cliData, "--strategy", c.strategy, "--sim-time", "30",
+                                             "--date", "2026-11-21"});
+      QVERIFY(cli.waitForFinished(60000));
+      QCOMPARE(cli.exitCode(), 0);
+
+      QTemporaryDir dir;
+      const QString dataFile = testing::copyOfExample(dir);
+      ui::QtPrompter prompter;
+      ui::Desktop desktop(prompter);
+      prompter.setParent(&desktop.mainWindow());
+      desktop.session().shortDate = "2026-11-21";
+      desktop.start();
+      auto press = [](QWidget* dialog) {
+        qobject_cast<QMessageBox*>(dialog)->button(QMessageBox::No)->click();
+      };
+      auto accept = [](QWidget* dialog) { qobject_cast<QDialog*>(dialog)->accept(); };
+      QStringList harvestBoxes;
+      auto harvestBox = [&](QWidget* dialog) {
+        auto* box = qobject_cast<QInputDialog*>(dialog);
+        harvestBoxes << box->labelText() + "|" + box->textValue();
+        box->accept();
+      };
+      std::vector<testing::DialogScript::Answer> answers = {
+          press, press, accept, press, accept,
+          [&](QWidget* dialog) { testing::chooseInFileDialog(dialog, dataFile); }, press};
+      if (QByteArray(c.strategy) == "harvest")
+        answers.insert(answers.end(), {harvestBox, harvestBox});
+      testing::DialogScript script(answers);
+
+      auto* time = desktop.mainWindow().findChild<QLineEdit*>(QStringLiteral("txtSimuT"));
+      time->clear();
+      QTest::keyClicks(time, QStringLiteral("30"));
+      for (const char* control : {"Command2", "cmdInputLTdata", c.option, "cmdRun"})
+        desktop.clickMain(QString::fromLatin1(control));
+      QVERIFY2(script.done(), c.option);
+      QApplication::processEvents();
+      QVERIFY(desktop.mainWindow().grab().save(
+          testing::screenshotPath(QStringLiteral("mainform-after-%1.png").arg(c.strategy))));
+      if (QByteArray(c.strategy) == "harvest") {
+        QCOMPARE(script.titles.mid(7), (QStringList{"Harvest begin date =?", "Harvest end date =?"}));
+        QCOMPARE(harvestBoxes, (QStringList{"|1", "|30"}));
+      }
+
+      const QStringList written = filesIn(dir.path());
+      QCOMPARE(written, filesIn(cliDir.path()));
+      QVERIFY(written.size() > 15);
+      for (const QString& name : written)
+        QVERIFY2(contentsOf(dir.filePath(name)) == contentsOf(cliDir.filePath(name)), qPrintable(name));
+    }
+  }
+
   void clicksOnTheChartStepThroughTheCycleAndSkipConsumption() {
     Clicked s;
     s.runNoControl();
