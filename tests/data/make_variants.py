@@ -5,6 +5,13 @@
                      more as they grow, the other stages not at all
   moth-releases.txt  two additional releases: 40 eggs on day 5, 15 larvae of
                      age 6 on day 12
+  moth-controls.txt  three controls instead of one: on day 5 for 3 days, on
+                     day 6 for 2 days (overlapping the first) and on day 19
+                     for 4 days (past the end of a 20-day run)
+  moth-auto.txt      a stepwise threshold of three periods (1 up to day 2.5,
+                     25 from day 3.5 to day 30.5, 40 after that; the ends
+                     round to whole days, ties to even, so days 3 and 31
+                     keep 0) and a control lasting 3 days
 
 Usage: python3 tests/data/make_variants.py   (from the top of the source tree)
 """
@@ -72,6 +79,55 @@ def with_releases():
     write("moth-releases.txt", lines)
 
 
+def control(day, name, mortalities):
+    """One control record: its day, critical day, name and duration, then one
+    line of stage mortalities for each day it acts."""
+    return ['"Description: treatment on day %d"' % day,
+            str(day),
+            '"Description: Critical cumulative insect day"',
+            str(day + 5),
+            '"Description: Code of the treatment and its effective duration in days"',
+            '"%s",%d' % (name, len(mortalities)),
+            '"Description: stage mortality due to treatment, one line for each effective day"'] + \
+        [" , ".join(day_values) for day_values in mortalities]
+
+
+def replace_controls(lines, controls):
+    """The control block of moth.txt, from its count to its last mortality
+    line, replaced by the records given."""
+    at = next(i for i, line in enumerate(lines) if line.startswith('"Description: number of treatment'))
+    end = next(i for i, line in enumerate(lines) if line.startswith('"Description: time interval between'))
+    assert lines[at + 1] == "1" and end == at + 10
+    lines[at:end] = ['"Description: number of treatment = %d"' % len(controls), str(len(controls))] + \
+        [line for record in controls for line in control(*record)]
+
+
+def with_controls():
+    lines = list(LINES)
+    replace_controls(lines, [
+        (5, "First", [["0", ".5", ".2", ".2", ".2"], ["0", ".3", ".1", ".1", ".1"], ["0", ".1", "0", "0", "0"]]),
+        (6, "Second", [["0", ".4", ".4", ".4", ".4"], ["0", ".2", ".2", ".2", ".2"]]),
+        (19, "Late", [["0", ".5", ".5", ".5", ".5"], ["0", ".4", ".4", ".4", ".4"],
+                      ["0", ".3", ".3", ".3", ".3"], ["0", ".2", ".2", ".2", ".2"]]),
+    ])
+    write("moth-controls.txt", lines)
+
+
+def with_stepwise_threshold():
+    lines = list(LINES)
+    et = next(i for i, line in enumerate(lines) if "economical threshold equation" in line)
+    lines[et] = ('"Descrip: b, c, d, e, f, g. There are b ETs. 0-c day, ET is d. c+1-e day, ET is f. '
+                 'After that, ET is g."')
+    lines[et + 1] = "3,2.5,1,30.5,25,40"
+    replace_controls(lines, [
+        (10, "Pyrethrins", [["0", ".6", ".3", ".3", ".3"], ["0", ".4", ".2", ".2", ".2"],
+                            ["0", ".2", ".1", ".1", ".1"]]),
+    ])
+    write("moth-auto.txt", lines)
+
+
 if __name__ == "__main__":
     with_cxj()
     with_releases()
+    with_controls()
+    with_stepwise_threshold()
