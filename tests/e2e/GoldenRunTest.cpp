@@ -1,7 +1,9 @@
 // Whole sessions run through the command line, every output file compared
 // with a reviewed copy in tests/data/golden/<case>/. After a deliberate
 // change, run the tests with VORLEX_UPDATE_GOLDEN=1 to rewrite the copies,
-// then review the difference before committing it.
+// then review the difference before committing it. A run that stops with a
+// failure is a case too: its exit status is part of the case, and what it
+// wrote before stopping is compared as for any other run.
 #include "support/CliRun.h"
 #include "support/RunFolder.h"
 
@@ -24,6 +26,7 @@ struct GoldenCase {
   std::string strategy;
   int simTime;
   std::vector<std::string> answers;
+  int exitStatus = 0;
 };
 
 std::ostream& operator<<(std::ostream& out, const GoldenCase& c) { return out << c.name; }
@@ -59,10 +62,12 @@ TEST_P(GoldenRun, EveryOutputFileMatchesItsReviewedCopy) {
   for (const std::string& answer : c.answers)
     arguments += " --answer " + quoted(answer);
   const CliResult result = runCli(arguments, folder.dir().string());
-  ASSERT_EQ(result.status, 0) << result.err;
-  EXPECT_EQ(result.err, "");
+  ASSERT_EQ(result.status, c.exitStatus) << result.err;
   EXPECT_EQ(fileText(dataFile), fileText(sourceOf(c.dataFile))) << "the data file is never written";
   std::ofstream(folder.path("stdout.txt"), std::ios::binary) << neutral(result.out, folder.dir().string());
+  // Only a run that has something to say on the error stream has this copy.
+  if (!result.err.empty())
+    std::ofstream(folder.path("stderr.txt"), std::ios::binary) << neutral(result.err, folder.dir().string());
   fs::remove(dataFile);
 
   const fs::path golden = fs::path(VORLEX_TEST_DATA_DIR) / "golden" / c.name;
