@@ -121,6 +121,10 @@ const GoldenCase kCases[] = {
      "no-control",
      5,
      {"Prepare only the data files of total population size and log(total)?=Yes"}},
+    {"moth-predefined", "moth.txt", "predefined", 60, {}},
+    {"moth-predefined-overlap", "moth-controls.txt", "predefined", 20, {"Do you need flow record?=Yes"}},
+    {"moth-auto-et", "moth.txt", "auto-et", 60, {}},
+    {"moth-auto-et-steps", "moth-auto.txt", "auto-et", 40, {}},
 };
 
 INSTANTIATE_TEST_SUITE_P(Sessions, GoldenRun, ::testing::ValuesIn(kCases), [](const auto& param) {
