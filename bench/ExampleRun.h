@@ -41,14 +41,20 @@ private:
   std::filesystem::path dataFile_;
 };
 
-/// Clicks a session through to the end of a run without control: the
-/// simulation time, the load, Option1, the run; then closes its files.
-inline void runWithoutControl(Session& session, int simTime) {
-  MainForm form(session);
+/// Clicks the example into a session up to the choice of a strategy: the
+/// simulation time and the load.
+inline void loadExample(MainForm& form, Session& session, int simTime) {
   form.Form_Load();
   session.controls["txtSimuT"].caption = std::to_string(simTime);
   form.Command2_Click();
   form.cmdInputLTdata_Click();
+}
+
+/// Clicks a session through to the end of a run without control: the
+/// simulation time, the load, Option1, the run; then closes its files.
+inline void runWithoutControl(Session& session, int simTime) {
+  MainForm form(session);
+  loadExample(form, session, simTime);
   form.Option1_Click();
   form.cmdRun_Click();
   session.files.closeAll();
