@@ -69,9 +69,11 @@ public:
   void run() {
     if (rules_.flowAtStart)
       session_.flow(rules_.flowAtStart);
-    if (rules_.listControls)
-      flowControls();
-    const int lastDay = checkedInt16(m_.SimTime + 1);
+    if (rules_.flowControlsHeading && session_.flowOn()) {
+      session_.flow(rules_.flowControlsHeading, m_.NrControl);
+      flowControlSchedule(session_);
+    }
+    const int lastDay = rules_.lastDay > 0 ? rules_.lastDay : checkedInt16(m_.SimTime + 1);
     int t = 1;
     for (; t <= lastDay; ++t) {
       m_.Day = static_cast<i16>(t);
@@ -88,7 +90,7 @@ private:
     if (t > m_.AgeSize.upper(1))
       raise(ErrorCode::SubscriptOutOfRange);
     for (int j = 1; j <= stages_; ++j) {
-      survival_[j] = m_.StageSurvivalDay(j, t);
+      survival_[j] = rules_.survivalOfTheDay ? m_.StageSurvivalDay(j, t) : 1;
       inflow_[j] = rules_.scheduledMortalities ? inflowSurvival(j, t) : 1;
     }
     echoSurvival_ = rules_.echoFirstControlDay && session_.flowOn() && t == m_.ControlDate(1);
@@ -99,20 +101,25 @@ private:
     develop(t);
     if (rules_.releases)
       release(t);
-    limitByCarryingCapacity(t);
+    if (rules_.densityDependence)
+      limitByCarryingCapacity(t);
     if (rules_.afterDensity)
       rules_.afterDensity(session_);
     m_.TotalSize(t) = 0;
     if (physogastry_)
       m_.PhysoTotalSize(t) = 0;
     consume(t);
+    if (rules_.afterConsumption)
+      rules_.afterConsumption(session_);
     takeNextDay(t, !(rules_.keepMatrixOnSimTime && t == m_.SimTime));
     recordStages(t);
     if (rules_.afterStageRecords)
       rules_.afterStageRecords(session_);
-    m_.CUMWID(t) = m_.CUMWID(t - 1) + m_.DailyWID(t);
-    if (physogastry_)
-      m_.PhysoCUMWID(t) = m_.PhysoCUMWID(t - 1) + m_.PhysoDailyWID(t);
+    if (rules_.cumulativeWeighedSize) {
+      m_.CUMWID(t) = m_.CUMWID(t - 1) + m_.DailyWID(t);
+      if (physogastry_)
+        m_.PhysoCUMWID(t) = m_.PhysoCUMWID(t - 1) + m_.PhysoDailyWID(t);
+    }
     if (rules_.criticalDay)
       for (int i = 1; i <= m_.NrControl; ++i)
         if (t == m_.CriticalDay(i))
@@ -135,13 +142,6 @@ private:
     if (physogastry_)
       m_.PhysoTotalGrowthLn(t - 1) = lnGrowth(m_.PhysoTotalSize(t), m_.PhysoTotalSize(t - 1));
     return true;
-  }
-
-  void flowControls() {
-    if (!session_.flowOn())
-      return;
-    session_.flow(" Beginning of VorlexDGosub160PopulationGrowth           NrControl =", m_.NrControl);
-    flowControlSchedule(session_);
   }
 
   // Rows 1..LastAge of the next day's matrix are written whole by the

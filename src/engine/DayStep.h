@@ -15,13 +15,16 @@ struct Model;
 struct DayStepRules {
   /// Flow record line at the start of the run, if any.
   const char* flowAtStart = nullptr;
-  /// Flow record: the controls of the schedule, day by day, at the start.
-  bool listControls = false;
+  /// Flow record: the line that opens the controls of the schedule, which
+  /// follow day by day, at the start; none when null.
+  const char* flowControlsHeading = nullptr;
   /// Flow record: the survival of each stage on the first control date.
   bool echoFirstControlDay = false;
   /// Overwinter mortality, the extra mortalities of development and the
   /// lowered fecundity of the extra-mortality dialogue.
   bool scheduledMortalities = false;
+  /// The control survival of the day acts; otherwise nothing does.
+  bool survivalOfTheDay = true;
   /// Eggs take the survival of the parent's stage of the day; otherwise
   /// that of the egg stage, whatever the parent.
   bool eggsTakeParentSurvival = true;
@@ -29,6 +32,10 @@ struct DayStepRules {
   bool physogastry = false;
   /// Additional releases of the data file.
   bool releases = false;
+  /// Density-dependent mortality under K(t), when the session has it.
+  bool densityDependence = true;
+  /// The cumulative weighed size of the day.
+  bool cumulativeWeighedSize = true;
   /// The deaths of the day with their logs and sums, and the difference of
   /// the total from the day before.
   bool deaths = true;
@@ -45,8 +52,13 @@ struct DayStepRules {
   /// A step of the variant's own on the next day's matrix, after the
   /// density-dependent mortality (Day holds the day).
   void (*afterDensity)(Session&) = nullptr;
+  /// A step of the variant's own on the next day's matrix, after the
+  /// consumption of the day and before the matrix is taken over.
+  void (*afterConsumption)(Session&) = nullptr;
   /// A step of the variant's own after the stage records (Day holds the day).
   void (*afterStageRecords)(Session&) = nullptr;
+  /// The last day projected, if not SimTime + 1.
+  int lastDay = 0;
   /// The message that tells the user that the population died out on day t.
   std::string (*extinctionText)(const Model&, int t) = nullptr;
 };

@@ -18,7 +18,7 @@ void VorlexDPopulationGrowth(Session& session) {
 void VorlexDGosub160PopulationGrowth(Session& session) {
   DayStepRules rules;
   rules.flowAtStart = "In Public Sub VorlexDGosub 160: Population is growing";
-  rules.listControls = true;
+  rules.flowControlsHeading = " Beginning of VorlexDGosub160PopulationGrowth           NrControl =";
   rules.echoFirstControlDay = true;
   rules.scheduledMortalities = true;
   rules.physogastry = true;

@@ -68,4 +68,48 @@ void WriteTotalPredation(Session& session) {
   session.files.close(kReportFile);
 }
 
+namespace {
+
+// The file number the predation file is read and its scaled copy written on.
+constexpr int kPredationFile = 9;
+
+} // namespace
+
+void ReadTotalPredation(Session& session) {
+  Model& m = session.model();
+  const std::string path = session.prompter().chooseFileToOpen(kPredationFileDialogTitle);
+  if (path.empty())
+    return;
+  session.files.openInput(kPredationFile, path);
+  ItemReader& in = session.files.input(kPredationFile);
+  const std::string title = in.readText();
+  const std::string header = in.readText();
+  const int lastDay = checkedInt16(m.SimTime + 1);
+  for (int t = 0; t <= lastDay; ++t) {
+    if (in.atEnd())
+      break;
+    in.readNumber(); // the time column is not used
+    m.PredationTotal(t) = in.readNumber();
+    m.PredationLog(t) = in.readNumber();
+  }
+  session.files.close(kPredationFile);
+
+  m.PredationCoef = numberEntry(session.prompter().askValue(
+      "Enter a value between 0 and 1 to modify the predation rate", "Predation coefficient", "1"));
+  if (m.PredationCoef != 1) {
+    const std::string stem = path.substr(0, path.size() >= 4 ? path.size() - 4 : 0);
+    session.files.openOutput(kPredationFile, stem + "-" + digits(m.PredationCoef) + ".txt");
+    OutputFile& out = session.files.output(kPredationFile);
+    out.write(title);
+    out.write(header);
+    for (int t = 0; t <= lastDay; ++t) {
+      const double scaled = m.PredationCoef * m.PredationTotal(t);
+      out.write(static_cast<double>(t), scaled, log10Plus1(scaled));
+    }
+    session.files.close(kPredationFile);
+  }
+  for (int t = 0; t <= lastDay; ++t)
+    m.PredationTotal(t) = m.PredationCoef * m.PredationTotal(t);
+}
+
 } // namespace vorlex

@@ -316,6 +316,8 @@ Driver driverOf(const std::string& optManagement) {
       {"OptPredefinedControl", &PredefinedControl},
       {"OptAutoControlBasedOnET", &AutoControlBasedonET},
       {"OptGrowthWithHarvest", &GrowthWithHarvest},
+      {"OptGrowthToLambda", &GrowthToLambda},
+      {"OptGrowthUnderPredation", &GrowthUnderPredation},
   };
   const auto found = kDrivers.find(optManagement);
   return found == kDrivers.end() ? nullptr : found->second;

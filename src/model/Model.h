@@ -268,6 +268,10 @@ struct Model {
   Table1<double> PredationTotal{kLastDaySlot};
   /// log10(predation + 1) of each day, the file's third column, unscaled.
   Table1<double> PredationLog{kLastDaySlot};
+  /// The prey vulnerable to the predator on each day of predation (weighed
+  /// by the first susceptibility coefficient) and the share of them eaten.
+  Table1<double> PredationVulnerable{kLastDaySlot};
+  Table1<double> PredationDeathRatio{kLastDaySlot};
 };
 
 } // namespace vorlex

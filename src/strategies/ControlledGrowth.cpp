@@ -11,29 +11,12 @@
 #include "reports/FigureFiles.h"
 #include "reports/TitlePage.h"
 #include "strategies/ControlledStart.h"
+#include "strategies/DriverSteps.h"
 #include "textio/NumberForms.h"
 
 namespace vorlex {
 
 namespace {
-
-void setMarks(Session& session, const char* optManagement, const char* growthMode, const char* fixedMark,
-              const char* autoMark) {
-  session.controls["cmdInputLTdata"].enabled = false;
-  RunFlags& flags = session.flags;
-  flags.OptManagement = optManagement;
-  flags.GrowthMode = growthMode;
-  flags.ControlFixedMark = fixedMark;
-  flags.ControlAutoMark = autoMark;
-  Model& m = session.model();
-  m.SeriesIndex = 0;
-  m.DailyWID(m.Day) = 0;
-}
-
-void noteLastDay(Session& session) {
-  const Model& m = session.model();
-  session.lastDayReached = m.Day <= m.SimTime ? m.Day : m.SimTime;
-}
 
 // What every controlled run writes once the report is done.
 void writeDerivedFilesAndFigures(Session& session) {
@@ -47,8 +30,7 @@ void writeDerivedFilesAndFigures(Session& session) {
 
 void PredefinedControl(Session& session) {
   const Model& m = session.model();
-  session.flow("OptManagement=", session.flags.OptManagement);
-  session.flow("In Public Sub PredefinedControl********* Predefined control *************");
+  openRun(session, "In Public Sub PredefinedControl********* Predefined control *************");
   session.flow("            NrControl =", m.NrControl);
   flowControlSchedule(session);
   setMarks(session, "OptPredefinedControl", "AUTOCONTROL", "FIXED", "AUTOCONTROL");
@@ -67,8 +49,7 @@ void PredefinedControl(Session& session) {
 
 void AutoControlBasedonET(Session& session) {
   Model& m = session.model();
-  session.flow("OptManagement=", session.flags.OptManagement);
-  session.flow("In Public Sub AutoControlBasedonET *(reset stage survival rate **");
+  openRun(session, "In Public Sub AutoControlBasedonET *(reset stage survival rate **");
   // Controls come from the rule alone: the schedule's survival is dropped.
   const int lastDay = checkedInt16(m.SimTime + 1);
   for (int j = 1; j <= m.NrStage; ++j)

@@ -8,6 +8,7 @@
 #include "reports/FigureFiles.h"
 #include "reports/TitlePage.h"
 #include "strategies/ControlledGrowth.h"
+#include "strategies/DriverSteps.h"
 #include "textio/NumberForms.h"
 #include "textio/OutputFile.h"
 
@@ -43,8 +44,7 @@ void writeHarvestStages(Session& session) {
 
 void GrowthWithHarvest(Session& session) {
   Model& m = session.model();
-  RunFlags& flags = session.flags;
-  session.flow("OptManagement=", flags.OptManagement);
+  session.flow("OptManagement=", session.flags.OptManagement);
   session.flow("In Public Sub GrowthWithHarvest()");
   session.names.HarvestFileName = session.names.BaseName + "_0_cost and harvest.txt";
   session.files.openOutput(kHarvestFile, session.names.HarvestFileName);
@@ -63,15 +63,12 @@ void GrowthWithHarvest(Session& session) {
   writeHarvestStages(session);
 
   session.controls["cmdInputLTdata"].enabled = false;
-  flags.OptManagement = "OptGrowthWithHarvest";
-  flags.GrowthMode = flags.ControlFixedMark = flags.ControlAutoMark = "Harvest";
-  m.SeriesIndex = 0;
-  m.DailyWID(m.Day) = 0;
+  setMarks(session, "OptGrowthWithHarvest", "Harvest", "Harvest", "Harvest");
 
   VorlexBSetStageSurvivalRto1(session);
   VorlexCPrintTitlePageAndBasicInfo(session);
   VorlexDPopulationGrowth(session);
-  session.lastDayReached = m.Day <= m.SimTime ? m.Day : m.SimTime;
+  noteLastDay(session);
   VorlexEPrintResults(session);
   session.files.close(kReportFile);
   WriteDataFileForVorlexA(session);

@@ -2,38 +2,33 @@
 
 #include "charts/ChartFamily.h"
 #include "datafile/DataFileWriter.h"
+#include "engine/GrowthToLambda.h"
+#include "engine/GrowthUnderPredation.h"
 #include "engine/PopulationGrowth.h"
+#include "exports/TotalPredation.h"
 #include "model/InitialCalculation.h"
 #include "model/Session.h"
 #include "reports/CharacterPlots.h"
 #include "reports/DeathFiles.h"
 #include "reports/FigureFiles.h"
 #include "reports/TitlePage.h"
+#include "strategies/DriverSteps.h"
 
 namespace vorlex {
 
 void UnlimitedGrowth(Session& session) {
-  RunFlags& flags = session.flags;
-  session.flow("OptManagement=", flags.OptManagement);
-  session.flow("In Public Sub UnlimitedGrowth *******************");
-  session.controls["cmdInputLTdata"].enabled = false;
-
-  // Extra mortality is a run without control too, and is reported as one.
-  flags.OptManagement = "OptNoControl";
-  flags.GrowthMode.assign(1, ' '); // blank: the plain day step
-  flags.ControlFixedMark.clear();
-  flags.ControlAutoMark.clear();
-
+  openRun(session, "In Public Sub UnlimitedGrowth *******************");
+  // Extra mortality is a run without control too, and is reported as one;
+  // the blank growth mode is the plain day step.
+  setMarks(session, "OptNoControl", " ", "", "");
   Model& m = session.model();
-  m.SeriesIndex = 0;
-  m.DailyWID(m.Day) = 0;
-  if (flags.ExtraMortalityOption == "Yes")
+  if (session.flags.ExtraMortalityOption == "Yes")
     askExtraMortality(session);
 
   VorlexBSetStageSurvivalRto1(session);
   VorlexCPrintTitlePageAndBasicInfo(session);
   VorlexDPopulationGrowth(session);
-  session.lastDayReached = m.Day <= m.SimTime ? m.Day : m.SimTime;
+  noteLastDay(session);
   VorlexEPrintResults(session);
   session.files.close(kReportFile);
   WriteDataFileForVorlexA(session);
@@ -41,6 +36,38 @@ void UnlimitedGrowth(Session& session) {
   PrintCxj(session);
   PrintDeathRatexj(session);
   session.mainChart = m.ReleaseDate != 0 ? ShowStageStructureLateRelease(session) : ShowStageStructure(session);
+  SaveGraphicData(session);
+  session.controls["Command4"].enabled = true;
+}
+
+void GrowthToLambda(Session& session) {
+  openRun(session, "In Public Sub GrowthToLambda *******************");
+  setMarks(session, "OptNoControl", " ", "", "");
+  VorlexBSetStageSurvivalRto1(session);
+  VorlexDGosub160PopuGrowthToR(session);
+  noteLastDay(session);
+  session.files.close(kReportFile);
+  session.mainChart = ShowStageStructure(session);
+  SaveGraphicData(session);
+  session.controls["Command4"].enabled = true;
+}
+
+void GrowthUnderPredation(Session& session) {
+  openRun(session, "In Public Sub GrowthUnderPredation *******************");
+  ReadTotalPredation(session);
+  session.controls["Frame4"].enabled = false;
+  setMarks(session, "OptGrowthUnderPredation", "Predation", "Predation", "Predation");
+  VorlexBSetStageSurvivalRto1(session);
+  VorlexCPrintTitlePageAndBasicInfo(session);
+  VorlexDGrowthUnderPredation(session);
+  noteLastDay(session);
+  VorlexEPrintResults(session);
+  session.files.close(kReportFile);
+  WriteDataFileForVorlexA(session);
+  WriteMatrixNforTimeT(session);
+  PrintCxj(session);
+  PrintDeathRatexj(session);
+  session.mainChart = ShowStageStructure(session);
   SaveGraphicData(session);
   session.controls["Command4"].enabled = true;
 }

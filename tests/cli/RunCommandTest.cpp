@@ -20,10 +20,10 @@ std::size_t filesIn(const fs::path& dir) {
 TEST(RunCommand, AStrategyNotInThisBuildIsRefusedBeforeAnythingIsWritten) {
   RunFolder folder("run-refused");
   const std::string data = folder.copy(dataPath("tiny3.txt"), "tiny3.txt");
-  const CliResult result = runCli("run " + quoted(data) + " --strategy lambda", folder.dir().string());
+  const CliResult result = runCli("run " + quoted(data) + " --strategy optimize-first", folder.dir().string());
   EXPECT_EQ(result.status, 2);
   EXPECT_EQ(result.out, "");
-  EXPECT_NE(result.err.find("'lambda' (OptGrowthToLambda) is not available"), std::string::npos);
+  EXPECT_NE(result.err.find("'optimize-first' (OptOptimize1stControl) is not available"), std::string::npos);
   EXPECT_EQ(filesIn(folder.dir()), 1u);
 }
 

@@ -252,8 +252,8 @@ TEST_F(MainFormSession, AStrategyWithoutDriverStopsTheRun) {
   form.Form_Load();
   form.Command2_Click();
   form.cmdInputLTdata_Click();
-  form.Option7_Click();
-  EXPECT_FALSE(MainForm::hasDriver("OptGrowthToLambda"));
+  form.Option4_Click();
+  EXPECT_FALSE(MainForm::hasDriver("OptOptimize1stControl"));
   EXPECT_EQ(errorOf([&] { form.cmdRun_Click(); }).number(), 5);
 }
 
