@@ -118,8 +118,10 @@ int runCommand(const std::vector<std::string>& args, std::ostream& out, std::ost
   const int lastDay = session.lastDayReached;
   out << "Strategy: " << strategy->name << " (Option" << strategy->option << ", " << optManagement << ")\n"
       << "Last day reached: " << lastDay << '\n'
-      << "Total size on day " << lastDay << ": " << digits(m.TotalSize(lastDay)) << '\n'
-      << "Files written:\n";
+      << "Total size on day " << lastDay << ": " << digits(m.TotalSize(lastDay)) << '\n';
+  if (const std::string& summary = session.controls["lblRunSummary"].caption; !summary.empty())
+    out << summary << '\n';
+  out << "Files written:\n";
   for (const std::string& path : session.files.writtenPaths())
     out << "  " << path << '\n';
   for (const std::string& title : prompter.unusedAnswers())

@@ -1,5 +1,6 @@
 #include "engine/DayStep.h"
 
+#include "engine/AgeStageStep.h"
 #include "engine/Cells.h"
 #include "model/Arithmetic.h"
 #include "model/DensityMortality.h"
@@ -14,15 +15,6 @@
 namespace vorlex {
 
 namespace {
-
-// One number for each stage, slot 0 unused.
-using PerStage = std::array<double, kLastStageSlot + 1>;
-
-constexpr PerStage kAllOnes = [] {
-  PerStage factors{};
-  factors.fill(1);
-  return factors;
-}();
 
 // A cell of the fecundity table that lays eggs.
 struct Fertile {
@@ -220,24 +212,8 @@ private:
       grow(physoN_, nextPhysoN_, kAllOnes);
   }
 
-  // The next day's matrix from today's, ages 1..LastAge; the oldest age has
-  // no successor. Extra mortality strikes the inflow only, never the
-  // individuals that stay; multiplying by 1 changes nothing.
   void grow(const Cells& from, const Cells& to, const PerStage& inflow) const {
-    const int m = stages_;
-    for (int x = 1; x <= lastAge_; ++x) {
-      const double* n = from.row(x - 1);
-      const double* g = growth_.row(x - 1);
-      const double* d = develop_.row(x - 1);
-      double* next = to.row(x);
-      if (m < 1)
-        continue;
-      next[1] = n[1] * g[1] * survival_[1];
-      for (int j = 2; j < m; ++j)
-        next[j] = (d[j - 1] * n[j - 1] * inflow[j] + n[j] * g[j]) * survival_[j];
-      if (m > 1)
-        next[m] = (d[m - 1] * n[m - 2] + n[m] * g[m]) * survival_[m];
-    }
+    developAges(lastAge_, stages_, growth_, develop_, from, to, survival_, inflow);
   }
 
   // All ten release slots are looked at, whatever the number of releases;

@@ -2,6 +2,7 @@
 
 #include "datafile/DataFileReader.h"
 #include "mainform/Forms.h"
+#include "mainform/LambdaCheck.h"
 #include "mainform/ParameterText.h"
 #include "mainform/Sayings.h"
 #include "model/Session.h"
@@ -73,6 +74,7 @@ constexpr ControlSetup kCreated[] = {
     {"txtIntrinsicRate", "", true},
     {"txtMeanGenerationTime", "", true},
     {"txtLambda", "", true},
+    {"lblRunSummary", "", true},
     {"txtLastAge", "", true},
     {"MSChart1", "", false},
     {"MSChart2", "", true},
@@ -335,11 +337,14 @@ void MainForm::cmdRun_Click() {
   session_.controls["MSChart2"].visible = false;
   session_.controls["MSChart1"].visible = true;
 
-  const std::string& strategy = session_.flags.OptManagement;
+  // The driver may overwrite the strategy value with the one it reports.
+  const std::string strategy = session_.flags.OptManagement;
   const Driver driver = driverOf(strategy);
   if (!driver)
     raise(ErrorCode::InvalidProcedureCall, "The strategy " + strategy + " is not available in this build");
   driver(session_);
+  if (strategy == "OptGrowthToLambda")
+    session_.controls["lblRunSummary"].caption = lambdaCheck(session_);
 
   session_.files.close(kReportFile);
   PrintStageDeath(session_);

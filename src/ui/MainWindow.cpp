@@ -140,6 +140,7 @@ MainWindow::MainWindow(QWidget* parent) : QWidget(parent) {
   auto* right = new QVBoxLayout;
   right->addWidget(mainChart_, 1);
   right->addWidget(samplingChart_, 1);
+  right->addWidget(namedLabel("lblRunSummary"));
   for (const char* name : {"lblSaying1", "lblSaying2"}) {
     QLabel* saying = namedLabel(name);
     saying->setWordWrap(true);
