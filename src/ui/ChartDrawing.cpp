@@ -38,6 +38,8 @@ QValueAxis* makeAxis(const ChartAxis& axis, Span span) {
   if (grid && !axis.automaticGridColour)
     qaxis->setGridLineColor(colourOf(axis.majorGridColour));
   qaxis->setMinorGridLineVisible(false);
+  // Short labels at any scale: 0.5, 200, 4e+58.
+  qaxis->setLabelFormat(QStringLiteral("%.6g"));
 
   if (!(span.low <= span.high)) // no data at all
     span = Span{0, 1};

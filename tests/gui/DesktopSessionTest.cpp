@@ -3,6 +3,7 @@
 #include "GuiSupport.h"
 #include "charts/ChartFamily.h"
 #include "cli/AnswerPrompter.h"
+#include "exports/TotalPredation.h"
 #include "mainform/Forms.h"
 #include "ui/ChartView.h"
 #include "ui/Desktop.h"
@@ -274,19 +275,32 @@ private slots:
       QVERIFY2(contentsOf(s.dir.filePath(name)) == contentsOf(cliDir.filePath(name)), qPrintable(name));
   }
 
-  // Each controlled strategy clicked on its option writes what the command
-  // line writes for it; the harvest boxes are the program's own dialogs.
-  void controlledStrategiesRunFromTheirOptions() {
+  // Each strategy clicked on its option writes what the command line writes
+  // for it; the harvest boxes and the predation file and coefficient are
+  // the program's own dialogs.
+  void strategiesRunFromTheirOptions() {
     struct Case {
       const char* option;
       const char* strategy;
     };
-    for (const Case& c : {Case{"Option2", "predefined"}, Case{"Option3", "auto-et"}, Case{"Option6", "harvest"}}) {
+    const QByteArray predation = "\"Total predation\"\r\n\"Time, Total predation, log(total predation+1)\"\r\n"
+                                 "0,0,0\r\n1,3,.6\r\n2,5,.77\r\n3,400,2.6\r\n";
+    const QString predationTitle = QString::fromLatin1(kPredationFileDialogTitle);
+    for (const Case& c : {Case{"Option2", "predefined"}, Case{"Option3", "auto-et"}, Case{"Option6", "harvest"},
+                          Case{"Option7", "lambda"}, Case{"Option8", "predation"}}) {
+      const QByteArray strategy(c.strategy);
       QTemporaryDir cliDir;
       const QString cliData = testing::copyOfExample(cliDir);
+      QStringList arguments{"run", cliData, "--strategy", c.strategy, "--sim-time", "30", "--date", "2026-11-21"};
+      if (strategy == "predation") {
+        QFile out(cliDir.filePath("eaten.txt"));
+        QVERIFY(out.open(QIODevice::WriteOnly) && out.write(predation) == predation.size());
+        out.close();
+        arguments << "--answer" << predationTitle + "=" + cliDir.filePath("eaten.txt") << "--answer"
+                  << "Predation coefficient=0.5";
+      }
       QProcess cli;
-      cli.start(QStringLiteral(VORLEX_CLI), {"run", cliData, "--strategy", c.strategy, "--sim-time", "30",
-                                             "--date", "2026-11-21"});
+      cli.start(QStringLiteral(VORLEX_CLI), arguments);
       QVERIFY(cli.waitForFinished(60000));
       QCOMPARE(cli.exitCode(), 0);
 
@@ -301,17 +315,29 @@ private slots:
         qobject_cast<QMessageBox*>(dialog)->button(QMessageBox::No)->click();
       };
       auto accept = [](QWidget* dialog) { qobject_cast<QDialog*>(dialog)->accept(); };
-      QStringList harvestBoxes;
-      auto harvestBox = [&](QWidget* dialog) {
-        auto* box = qobject_cast<QInputDialog*>(dialog);
-        harvestBoxes << box->labelText() + "|" + box->textValue();
-        box->accept();
+      QStringList boxes;
+      auto box = [&](const char* typed) {
+        return [&boxes, typed](QWidget* dialog) {
+          auto* input = qobject_cast<QInputDialog*>(dialog);
+          boxes << input->labelText() + "|" + input->textValue();
+          if (*typed)
+            input->setTextValue(QString::fromLatin1(typed));
+          input->accept();
+        };
       };
       std::vector<testing::DialogScript::Answer> answers = {
           press, press, accept, press, accept,
           [&](QWidget* dialog) { testing::chooseInFileDialog(dialog, dataFile); }, press};
-      if (QByteArray(c.strategy) == "harvest")
-        answers.insert(answers.end(), {harvestBox, harvestBox});
+      if (strategy == "harvest")
+        answers.insert(answers.end(), {box(""), box("")});
+      if (strategy == "predation") {
+        QFile out(dir.filePath("eaten.txt"));
+        QVERIFY(out.open(QIODevice::WriteOnly) && out.write(predation) == predation.size());
+        out.close();
+        answers.insert(answers.end(),
+                       {[&](QWidget* dialog) { testing::chooseInFileDialog(dialog, dir.filePath("eaten.txt")); },
+                        box("0.5")});
+      }
       testing::DialogScript script(answers);
 
       auto* time = desktop.mainWindow().findChild<QLineEdit*>(QStringLiteral("txtSimuT"));
@@ -323,10 +349,16 @@ private slots:
       QApplication::processEvents();
       QVERIFY(desktop.mainWindow().grab().save(
           testing::screenshotPath(QStringLiteral("mainform-after-%1.png").arg(c.strategy))));
-      if (QByteArray(c.strategy) == "harvest") {
+      if (strategy == "harvest") {
         QCOMPARE(script.titles.mid(7), (QStringList{"Harvest begin date =?", "Harvest end date =?"}));
-        QCOMPARE(harvestBoxes, (QStringList{"|1", "|30"}));
+        QCOMPARE(boxes, (QStringList{"|1", "|30"}));
       }
+      if (strategy == "predation") {
+        QCOMPARE(script.titles.mid(7), (QStringList{predationTitle, "Predation coefficient"}));
+        QCOMPARE(boxes, (QStringList{"Enter a value between 0 and 1 to modify the predation rate|1"}));
+      }
+      const QString summary = desktop.mainWindow().findChild<QLabel*>(QStringLiteral("lblRunSummary"))->text();
+      QCOMPARE(summary.startsWith(QStringLiteral("Day 1000: r = ")), strategy == "lambda");
 
       const QStringList written = filesIn(dir.path());
       QCOMPARE(written, filesIn(cliDir.path()));
