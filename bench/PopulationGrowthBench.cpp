@@ -1,10 +1,11 @@
 // The day-by-day projections without control, under automatic control at
-// ET(t) and with harvest, at the largest size the tables allow and at the
+// ET(t), with harvest and of growth to lambda, at the largest size the tables allow and at the
 // size of the example. Each projection is timed from day 1 on; its day 0 is
 // made again, with the timer stopped, before every run.
 #include "ExampleRun.h"
 
 #include "engine/AutoControl.h"
+#include "engine/GrowthToLambda.h"
 #include "engine/GrowthWithHarvest.h"
 #include "engine/PopulationGrowth.h"
 #include "model/InitialCalculation.h"
@@ -70,7 +71,7 @@ void largestTable(vorlex::Model& m) {
     m.ControlMortality(stage, 1, 1) = .5;
 }
 
-enum class Strategy { NoControl, AutoControl, Harvest };
+enum class Strategy { NoControl, AutoControl, Harvest, Lambda };
 
 // What the strategy's driver sets before day 0. The harvest days are those
 // the dialogue fills from day 1 to lastHarvestDay.
@@ -79,6 +80,7 @@ void chooseStrategy(vorlex::Session& session, Strategy strategy, int lastHarvest
   vorlex::RunFlags& flags = session.flags;
   switch (strategy) {
   case Strategy::NoControl:
+  case Strategy::Lambda:
     flags.OptManagement = "OptNoControl";
     flags.GrowthMode.assign(1, ' '); // blank: the plain day step
     break;
@@ -103,11 +105,14 @@ void chooseStrategy(vorlex::Session& session, Strategy strategy, int lastHarvest
 }
 
 // Day 0 of a run as the strategy's driver makes it.
-void startRun(vorlex::Session& session, Strategy strategy) {
+void startRun(vorlex::Session& session, Strategy strategy, int simTime) {
   vorlex::Model& m = session.model();
+  // Growth to lambda leaves its own simulation time behind.
+  m.SimTime = static_cast<vorlex::i16>(simTime);
   const int lastDay = m.SimTime + 1;
   switch (strategy) {
   case Strategy::NoControl:
+  case Strategy::Lambda:
     vorlex::VorlexBSetStageSurvivalRto1(session);
     break;
   case Strategy::AutoControl:
@@ -141,23 +146,29 @@ void project(vorlex::Session& session, Strategy strategy) {
   case Strategy::Harvest:
     vorlex::VorlexDGosub160GrowthWithHarvest(session);
     break;
+  case Strategy::Lambda:
+    vorlex::VorlexDGosub160PopuGrowthToR(session);
+    break;
   }
 }
 
-// Runs the projection, checks that it reached the day after SimTime and
-// shows how much the rule or the harvest had to do.
+// Runs the projection, checks that it reached its last day (SimTime + 1,
+// or day 1000 for growth to lambda) and shows how much the rule or the
+// harvest had to do, and the days projected.
 void timeProjections(benchmark::State& state, vorlex::Session& session, Strategy strategy) {
   vorlex::Model& m = session.model();
-  const int lastDay = m.SimTime + 1;
+  const int simTime = m.SimTime;
+  const int lastDay = strategy == Strategy::Lambda ? 1000 : simTime + 1;
   for (auto _ : state) {
     state.PauseTiming();
-    startRun(session, strategy);
+    startRun(session, strategy, simTime);
     state.ResumeTiming();
     project(session, strategy);
     benchmark::DoNotOptimize(m.TotalSize(lastDay));
   }
   if (m.Day != lastDay + 1 || !std::isfinite(m.TotalSize(lastDay)))
-    state.SkipWithError("the projection did not reach the day after SimTime");
+    state.SkipWithError("the projection did not reach its last day");
+  state.counters["days"] = lastDay;
   if (strategy == Strategy::AutoControl)
     state.counters["controls"] = m.NrAutoControl;
   // The number harvested sits in TotalCost, the sum of the costs in
@@ -204,6 +215,11 @@ void BM_HarvestProjectionAtLargestSizeUnderK(benchmark::State& state) {
   atLargestSize(state, Strategy::Harvest, true);
 }
 BENCHMARK(BM_HarvestProjectionAtLargestSizeUnderK)->Unit(benchmark::kMillisecond);
+
+void BM_LambdaProjectionAtLargestSize(benchmark::State& state) {
+  atLargestSize(state, Strategy::Lambda, false);
+}
+BENCHMARK(BM_LambdaProjectionAtLargestSize)->Unit(benchmark::kMillisecond);
 
 // The example as loaded by the main form for its 60 days, with its own ET
 // curve, control and stage ranges; growth with harvest takes every day the
