@@ -143,6 +143,8 @@ const GoldenCase kCases[] = {
      60,
      {"Harvest begin date =?=1", "Harvest end date =?=201"},
      1},
+    {"moth-lambda", "moth.txt", "lambda", 60, {}},
+    {"moth-lambda-physogastry", "moth.txt", "lambda", 60, {"Attention=Yes", "Attention=No"}},
 };
 
 INSTANTIATE_TEST_SUITE_P(Sessions, GoldenRun, ::testing::ValuesIn(kCases), [](const auto& param) {
