@@ -1,6 +1,7 @@
 #include "cli/RunCommand.h"
 
 #include "cli/AnswerPrompter.h"
+#include "cli/DataFileCheck.h"
 #include "mainform/MainForm.h"
 #include "model/Session.h"
 #include "textio/NumberForms.h"
@@ -60,6 +61,10 @@ int runCommand(const std::vector<std::string>& args, std::ostream& out, std::ost
     for (std::size_t i = 0; i < args.size(); ++i) {
       const std::string& arg = args[i];
       const bool hasValue = i + 1 < args.size();
+      if (arg == "--help" || arg == "-h") {
+        out << "Usage:\n" << kRunUsage;
+        return 0;
+      }
       if (arg == "--strategy" && hasValue)
         options.strategy = args[++i];
       else if (arg == "--sim-time" && hasValue)
@@ -91,6 +96,10 @@ int runCommand(const std::vector<std::string>& args, std::ostream& out, std::ost
   if (!MainForm::hasDriver(optManagement)) {
     err << "vorlex: the strategy '" << strategy->name << "' (" << optManagement
         << ") is not available in this build yet; nothing was written.\n";
+    return 2;
+  }
+  if (const auto problem = cli::dataFileProblem(options.dataFile)) {
+    err << "vorlex: " << *problem << "; nothing was asked or written.\n";
     return 2;
   }
 

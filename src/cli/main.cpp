@@ -1,4 +1,5 @@
 // vorlex: the command-line twin of the desktop program.
+#include "cli/DataFileCheck.h"
 #include "cli/InfoCommand.h"
 #include "cli/RunCommand.h"
 #include "datafile/DataFileReader.h"
@@ -13,17 +14,26 @@
 
 namespace {
 
-const std::string kUsage = std::string("Usage:\n") + vorlex::cli::kRunUsage +
-                           "  vorlex info DATAFILE [--cxj] [--sim-time N]\n"
-                           "      Reads a project data file as the load does and prints what it holds.\n"
-                           "      --cxj          the file has the consumption block C(x,j)\n"
-                           "      --sim-time N   simulation time that bounds the daily tables (default 60)\n";
+const char* const kInfoUsage =
+    "  vorlex info DATAFILE [--cxj] [--sim-time N]\n"
+    "      Reads a project data file as the load does and prints what it holds.\n"
+    "      --cxj          the file has the consumption block C(x,j)\n"
+    "      --sim-time N   simulation time that bounds the daily tables (default 60)\n";
+
+const std::string kUsage = std::string("Usage:\n") + vorlex::cli::kRunUsage + kInfoUsage +
+                           "  vorlex --version\n"
+                           "      Prints the version.\n"
+                           "Each command's --help prints its own usage.\n";
 
 int runInfo(const std::vector<std::string>& args) {
   std::string dataFile;
   bool withCxj = false;
   std::string simTime = "60";
   for (std::size_t i = 0; i < args.size(); ++i) {
+    if (args[i] == "--help" || args[i] == "-h") {
+      std::cout << "Usage:\n" << kInfoUsage;
+      return 0;
+    }
     if (args[i] == "--cxj") {
       withCxj = true;
     } else if (args[i] == "--sim-time" && i + 1 < args.size()) {
@@ -37,6 +47,10 @@ int runInfo(const std::vector<std::string>& args) {
   }
   if (dataFile.empty()) {
     std::cerr << kUsage;
+    return 2;
+  }
+  if (const auto problem = vorlex::cli::dataFileProblem(dataFile)) {
+    std::cerr << "vorlex: " << *problem << ".\n";
     return 2;
   }
 
@@ -56,9 +70,17 @@ int runInfo(const std::vector<std::string>& args) {
 
 int main(int argc, char** argv) {
   const std::vector<std::string> args(argv + 1, argv + argc);
-  if (args.empty() || args[0] == "--help" || args[0] == "-h") {
+  if (args.empty()) {
+    std::cerr << kUsage;
+    return 2;
+  }
+  if (args[0] == "--help" || args[0] == "-h") {
     std::cout << kUsage;
-    return args.empty() ? 2 : 0;
+    return 0;
+  }
+  if (args[0] == "--version") {
+    std::cout << "vorlex " << VORLEX_VERSION << '\n';
+    return 0;
   }
   try {
     if (args[0] == "run")

@@ -48,11 +48,38 @@ TEST(InfoCommand, BrokenFileStopsWithTheErrorAndItsPlace) {
                             "insect days\"\n");
 }
 
-TEST(InfoCommand, MissingFileAndBadArguments) {
-  EXPECT_EQ(runCli("info /nonexistent/nothing.txt").status, 1);
-  EXPECT_NE(runCli("info /nonexistent/nothing.txt").err.find("File not found"), std::string::npos);
-  EXPECT_EQ(runCli("info").status, 2);
-  EXPECT_EQ(runCli("frobnicate").status, 2);
+// What the command line says before it does any work: the usage where it
+// was asked for (status 0) or where the command line can't be used (2, on
+// the error stream), the version, and a data file it can't read.
+TEST(CommandLine, UsageVersionAndUnusableDataFiles) {
+  const std::string folder = ::testing::TempDir();
+  struct Case {
+    std::string arguments;
+    int status;
+    std::string outStart, errStart;
+  };
+  const Case cases[] = {
+      {"", 2, "", "Usage:\n  vorlex run DATAFILE"},
+      {"--help", 0, "Usage:\n  vorlex run DATAFILE", ""},
+      {"run --help", 0, "Usage:\n  vorlex run DATAFILE", ""},
+      {"info --help", 0, "Usage:\n  vorlex info DATAFILE", ""},
+      {"--version", 0, "vorlex " VORLEX_VERSION "\n", ""},
+      {"frobnicate", 2, "", "vorlex: unknown command 'frobnicate'"},
+      {"info", 2, "", "Usage:"},
+      {"info /nonexistent/nothing.txt", 2, "", "vorlex: the data file '/nonexistent/nothing.txt' does not exist"},
+      {"info " + folder, 2, "", "vorlex: '" + folder + "' is a folder, not a data file"},
+      {"run /nonexistent/nothing.txt", 2, "", "vorlex: the data file '/nonexistent/nothing.txt' does not exist"},
+      {"run " + folder, 2, "", "vorlex: '" + folder + "' is a folder, not a data file; nothing was asked"},
+  };
+  for (const Case& c : cases) {
+    const CommandResult result = runCli(c.arguments);
+    EXPECT_EQ(result.status, c.status) << c.arguments;
+    EXPECT_EQ(result.out.substr(0, c.outStart.size()), c.outStart) << c.arguments;
+    EXPECT_EQ(result.err.substr(0, c.errStart.size()), c.errStart) << c.arguments;
+    if (c.outStart.empty()) {
+      EXPECT_EQ(result.out, "") << c.arguments;
+    }
+  }
 }
 
 } // namespace
