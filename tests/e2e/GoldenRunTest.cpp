@@ -3,7 +3,10 @@
 // change, run the tests with VORLEX_UPDATE_GOLDEN=1 to rewrite the copies,
 // then review the difference before committing it. A run that stops with a
 // failure is a case too: its exit status is part of the case, and what it
-// wrote before stopping is compared as for any other run.
+// wrote before stopping is compared as for any other run. A case may read
+// other files of tests/data besides its data file, and may follow an earlier
+// run in the same folder whose outputs it reads; an answer names a file of
+// the run's folder as RUN/name.
 #include "support/CliRun.h"
 #include "support/RunFolder.h"
 
@@ -13,12 +16,21 @@
 #include <cstdlib>
 #include <filesystem>
 #include <fstream>
+#include <optional>
 #include <vector>
 
 namespace vorlex::testing {
 namespace {
 
 namespace fs = std::filesystem;
+
+// A run that goes before the case's own in the same folder; it ends normally.
+struct EarlierRun {
+  std::string dataFile; // in tests/data or examples
+  std::string strategy;
+  int simTime;
+  std::vector<std::string> answers;
+};
 
 struct GoldenCase {
   std::string name;
@@ -27,6 +39,8 @@ struct GoldenCase {
   int simTime;
   std::vector<std::string> answers;
   int exitStatus = 0;
+  std::vector<std::string> inputs = {}; // more files of tests/data the runs read
+  std::optional<EarlierRun> earlier = {};
 };
 
 std::ostream& operator<<(std::ostream& out, const GoldenCase& c) { return out << c.name; }
@@ -51,24 +65,59 @@ std::string neutral(std::string text, const std::string& folder) {
   return text;
 }
 
+// The answers name the files of the run's folder as RUN/name.
+std::string inFolder(std::string answer, const std::string& folder) {
+  const std::string mark = "RUN/";
+  for (auto at = answer.find(mark); at != std::string::npos; at = answer.find(mark, at + folder.size() + 1))
+    answer.replace(at, mark.size(), folder + "/");
+  return answer;
+}
+
+// Runs one command of a case and keeps what it printed, made neutral, as
+// <stream><suffix>.txt in the folder.
+void runAndKeepOutput(const RunFolder& folder, const std::string& dataFile, const std::string& strategy,
+                      int simTime, const std::vector<std::string>& answers, int exitStatus,
+                      const std::string& suffix) {
+  const std::string dir = folder.dir().string();
+  std::string arguments = "run " + quoted(folder.path(dataFile)) + " --strategy " + strategy +
+                          " --sim-time " + std::to_string(simTime) + " --date 2026-11-21";
+  for (const std::string& answer : answers)
+    arguments += " --answer " + quoted(inFolder(answer, dir));
+  const CliResult result = runCli(arguments, dir);
+  ASSERT_EQ(result.status, exitStatus) << dataFile << ": " << result.err;
+  std::ofstream(folder.path("stdout" + suffix + ".txt"), std::ios::binary) << neutral(result.out, dir);
+  // Only a run that has something to say on the error stream has this copy.
+  if (!result.err.empty())
+    std::ofstream(folder.path("stderr" + suffix + ".txt"), std::ios::binary) << neutral(result.err, dir);
+}
+
 class GoldenRun : public ::testing::TestWithParam<GoldenCase> {};
 
 TEST_P(GoldenRun, EveryOutputFileMatchesItsReviewedCopy) {
   const GoldenCase& c = GetParam();
   RunFolder folder("golden-" + c.name);
-  const std::string dataFile = folder.copy(sourceOf(c.dataFile), c.dataFile);
-  std::string arguments = "run " + quoted(dataFile) + " --strategy " + c.strategy + " --sim-time " +
-                          std::to_string(c.simTime) + " --date 2026-11-21";
-  for (const std::string& answer : c.answers)
-    arguments += " --answer " + quoted(answer);
-  const CliResult result = runCli(arguments, folder.dir().string());
-  ASSERT_EQ(result.status, c.exitStatus) << result.err;
-  EXPECT_EQ(fileText(dataFile), fileText(sourceOf(c.dataFile))) << "the data file is never written";
-  std::ofstream(folder.path("stdout.txt"), std::ios::binary) << neutral(result.out, folder.dir().string());
-  // Only a run that has something to say on the error stream has this copy.
-  if (!result.err.empty())
-    std::ofstream(folder.path("stderr.txt"), std::ios::binary) << neutral(result.err, folder.dir().string());
-  fs::remove(dataFile);
+  // The data files and other inputs: each is read, never written, and is no
+  // output of the case.
+  std::vector<std::string> inputs = c.inputs;
+  inputs.push_back(c.dataFile);
+  if (c.earlier)
+    inputs.push_back(c.earlier->dataFile);
+  for (const std::string& input : inputs)
+    folder.copy(sourceOf(input), input);
+
+  if (c.earlier) {
+    const EarlierRun& e = *c.earlier;
+    runAndKeepOutput(folder, e.dataFile, e.strategy, e.simTime, e.answers, 0, "-earlier");
+    if (::testing::Test::HasFatalFailure())
+      return;
+  }
+  runAndKeepOutput(folder, c.dataFile, c.strategy, c.simTime, c.answers, c.exitStatus, "");
+  if (::testing::Test::HasFatalFailure())
+    return;
+  for (const std::string& input : inputs) {
+    EXPECT_EQ(fileText(folder.path(input)), fileText(sourceOf(input))) << input << " is never written";
+    fs::remove(folder.path(input));
+  }
 
   const fs::path golden = fs::path(VORLEX_TEST_DATA_DIR) / "golden" / c.name;
   if (std::getenv("VORLEX_UPDATE_GOLDEN")) {
@@ -87,6 +136,10 @@ TEST_P(GoldenRun, EveryOutputFileMatchesItsReviewedCopy) {
     EXPECT_EQ(fileText(folder.path(name)), fileText((golden / name).string())) << c.name << ": " << name;
   }
 }
+
+// The title of the file dialog that chooses a total-predation file.
+constexpr const char* kPredationFile =
+    "Input predation data (file 10X with time lag or 9 without time lag) in predator VORLEX folder.";
 
 const GoldenCase kCases[] = {
     {"moth-no-control", "moth.txt", "no-control", 30, {}},
@@ -145,6 +198,40 @@ const GoldenCase kCases[] = {
      1},
     {"moth-lambda", "moth.txt", "lambda", 60, {}},
     {"moth-lambda-physogastry", "moth.txt", "lambda", 60, {"Attention=Yes", "Attention=No"}},
+    {"tiny3-predation-coefficient",
+     "tiny3.txt",
+     "predation",
+     10,
+     {std::string(kPredationFile) + "=RUN/predation-rising.txt", "Predation coefficient=.5"},
+     0,
+     {"predation-rising.txt"}},
+    {"tiny3-predation-overrun",
+     "tiny3.txt",
+     "predation",
+     10,
+     {std::string(kPredationFile) + "=RUN/predation-overrun.txt"},
+     0,
+     {"predation-overrun.txt"}},
+    {"tiny3-predation-cancelled", "tiny3.txt", "predation", 10, {}},
+    {"tiny3-predation-short",
+     "tiny3.txt",
+     "predation",
+     10,
+     {std::string(kPredationFile) + "=RUN/predation-short.txt"},
+     0,
+     {"predation-short.txt"}},
+    {"predator-prey-pair",
+     "aphid.txt",
+     "predation",
+     60,
+     {std::string(kPredationFile) + "=RUN/ladybeetle-10X-Total aphids eaten released after 5 time units.txt"},
+     0,
+     {},
+     EarlierRun{"ladybeetle.txt",
+                "no-control",
+                60,
+                {"Attention=No", "Attention=Yes", "Add time to total predation data.=5",
+                 "Predator? Parasitoid? Pest?=aphids eaten"}}},
 };
 
 INSTANTIATE_TEST_SUITE_P(Sessions, GoldenRun, ::testing::ValuesIn(kCases), [](const auto& param) {
