@@ -32,11 +32,19 @@ namespace {
 struct Strategy {
   const char* name;
   int option;
+  const char* words; // what the summary calls it
 };
 
 constexpr Strategy kStrategies[] = {
-    {"no-control", 1}, {"predefined", 2}, {"auto-et", 3},   {"optimize-first", 4},  {"optimize-interval", 5},
-    {"harvest", 6},    {"lambda", 7},     {"predation", 8}, {"extra-mortality", 9},
+    {"no-control", 1, "no control"},
+    {"predefined", 2, "control based on a predefined schedule"},
+    {"auto-et", 3, "automatic control based on ET"},
+    {"optimize-first", 4, "optimizing the beginning of control"},
+    {"optimize-interval", 5, "optimizing the control interval"},
+    {"harvest", 6, "population growth with stage harvesting"},
+    {"lambda", 7, "growth to lambda"},
+    {"predation", 8, "population growth under predation"},
+    {"extra-mortality", 9, "extra mortality"},
 };
 
 struct RunOptions {
@@ -125,7 +133,7 @@ int runCommand(const std::vector<std::string>& args, std::ostream& out, std::ost
 
   const Model& m = session.model();
   const int lastDay = session.lastDayReached;
-  out << "Strategy: " << strategy->name << " (Option" << strategy->option << ", " << optManagement << ")\n"
+  out << "Strategy: " << strategy->words << '\n'
       << "Last day reached: " << lastDay << '\n'
       << "Total size on day " << lastDay << ": " << digits(m.TotalSize(lastDay)) << '\n';
   if (const std::string& summary = session.controls["lblRunSummary"].caption; !summary.empty())
