@@ -90,7 +90,7 @@ int main(int argc, char** argv) {
     std::cerr << "vorlex: unknown command '" << args[0] << "'\n" << kUsage;
     return 2;
   } catch (const vorlex::RuntimeError& error) {
-    std::cerr << "vorlex: " << error.what() << '\n';
+    std::cerr << "vorlex: " << error.what() << "\nLikely cause: " << error.likelyCause() << '\n';
     return 1;
   } catch (const vorlex::ProgramEnd& end) {
     std::cerr << "vorlex: " << end.what() << '\n';

@@ -13,6 +13,7 @@
 #include "textio/RuntimeError.h"
 
 #include <cstdio>
+#include <filesystem>
 #include <map>
 #include <random>
 
@@ -75,6 +76,7 @@ constexpr ControlSetup kCreated[] = {
     {"txtMeanGenerationTime", "", true},
     {"txtLambda", "", true},
     {"lblRunSummary", "", true},
+    {"lblStatus", "", true},
     {"txtLastAge", "", true},
     {"MSChart1", "", false},
     {"MSChart2", "", true},
@@ -327,6 +329,17 @@ Driver driverOf(const std::string& optManagement) {
 
 } // namespace
 
+std::string MainForm::runPlace(const std::string& strategy) {
+  std::string name = strategy;
+  for (int option = 1; option <= 9; ++option)
+    if (strategy == optManagementOf(option))
+      name = session_.controls["Option" + std::to_string(option)].caption;
+  std::string place = "Run of \"" + name + "\", day " + digits(session_.model().Day);
+  if (const std::string file = session_.files.newestOpenOutput(); !file.empty())
+    place += ", file being written: " + file;
+  return place;
+}
+
 bool MainForm::hasDriver(const std::string& optManagement) { return driverOf(optManagement) != nullptr; }
 
 void MainForm::cmdRun_Click() {
@@ -342,20 +355,31 @@ void MainForm::cmdRun_Click() {
   const Driver driver = driverOf(strategy);
   if (!driver)
     raise(ErrorCode::InvalidProcedureCall, "The strategy " + strategy + " is not available in this build");
-  driver(session_);
-  if (strategy == "OptGrowthToLambda")
-    session_.controls["lblRunSummary"].caption = lambdaCheck(session_);
+  try {
+    driver(session_);
+    if (strategy == "OptGrowthToLambda")
+      session_.controls["lblRunSummary"].caption = lambdaCheck(session_);
 
-  session_.files.close(kReportFile);
-  PrintStageDeath(session_);
-  PrintTotalDeath(session_);
-  PrintLogStageDeath(session_);
-  PrintCumuStageDeath(session_);
-  PrintLogCumuStageDeath(session_);
-  PrintTotalDifference(session_);
+    session_.files.close(kReportFile);
+    PrintStageDeath(session_);
+    PrintTotalDeath(session_);
+    PrintLogStageDeath(session_);
+    PrintCumuStageDeath(session_);
+    PrintLogCumuStageDeath(session_);
+    PrintTotalDifference(session_);
+  } catch (const RuntimeError& error) {
+    throw error.at(runPlace(strategy));
+  }
 
   enable(session_, {"Command4", "Command16", "Command3"});
   enable(session_, {"cmdRun", "Frame4", "cmdInputLTdata"}, false);
+
+  // Where the run's files went: the report, and the figure files that share
+  // its base name in the data file's folder.
+  const std::string folder = std::filesystem::path(session_.names.BaseName).parent_path().string();
+  session_.controls["lblStatus"].caption = "Report: " + session_.names.ReportFileName +
+                                           "; figure files beside it in " +
+                                           (folder.empty() ? "the current folder" : folder);
 }
 
 void MainForm::Command1_Click() {

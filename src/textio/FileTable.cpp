@@ -28,6 +28,7 @@ void FileTable::openWriting(int number, const std::string& path, bool append) {
   Entry entry;
   entry.path = path;
   entry.output = std::make_unique<OutputFile>(std::move(stream));
+  entry.openedAs = ++openings_;
   open_.emplace(number, std::move(entry));
   if (std::find(written_.begin(), written_.end(), path) == written_.end())
     written_.push_back(path);
@@ -58,6 +59,14 @@ void FileTable::attachInput(int number, ItemReader reader, std::string path) {
   entry.path = std::move(path);
   entry.input = std::make_unique<ItemReader>(std::move(reader));
   open_.emplace(number, std::move(entry));
+}
+
+std::string FileTable::newestOpenOutput() const {
+  const Entry* newest = nullptr;
+  for (const auto& [number, entry] : open_)
+    if (entry.output && !entry.path.empty() && (!newest || entry.openedAs > newest->openedAs))
+      newest = &entry;
+  return newest ? newest->path : std::string();
 }
 
 void FileTable::close(int number) {

@@ -43,18 +43,23 @@ public:
   /// Every file opened for writing on the disk, once each, in the order of
   /// their first opening.
   const std::vector<std::string>& writtenPaths() const { return written_; }
+  /// The path of the file opened for writing last among those still open;
+  /// empty when none is.
+  std::string newestOpenOutput() const;
 
 private:
   struct Entry {
     std::string path;
     std::unique_ptr<OutputFile> output;
     std::unique_ptr<ItemReader> input;
+    long long openedAs = 0; // the how-manieth opening
   };
   void checkFree(int number) const;
   void openWriting(int number, const std::string& path, bool append);
 
   std::map<int, Entry> open_;
   std::vector<std::string> written_;
+  long long openings_ = 0;
 };
 
 } // namespace vorlex

@@ -36,8 +36,11 @@ public:
   int number() const { return static_cast<int>(code_); }
   /// The standard text alone, e.g. "Overflow".
   std::string text() const { return errorText(code_); }
-  /// Where it happened; empty when nobody said.
+  /// Where it happened; empty when nobody said. Control characters that
+  /// came with it (from a broken file) are shown escaped, as \xNN.
   const std::string& where() const { return where_; }
+  /// One sentence in plain words on the likely cause.
+  std::string likelyCause() const;
 
   /// A copy that says where it happened, unless a deeper place was already
   /// given.

@@ -45,7 +45,23 @@ TEST(InfoCommand, BrokenFileStopsWithTheErrorAndItsPlace) {
   EXPECT_EQ(result.out, "");
   EXPECT_EQ(result.err, "vorlex: Run-time error '62': Input past end of file\nData file: " + path +
                             ", item 355, line 127, last description read: \"Previous cumulative weighed "
-                            "insect days\"\n");
+                            "insect days\"\nLikely cause: the data file ended before all of its items were read: "
+                            "a line or block is missing, or a count in the file (stages, last age, releases, "
+                            "controls) does not match the lines that follow.\n");
+}
+
+// A control byte of a broken file reaches the terminal escaped.
+TEST(InfoCommand, ControlBytesOfABrokenFileAreShownEscaped) {
+  const std::string moth = fileText(examplePath("moth.txt"));
+  const std::string path = ::testing::TempDir() + "/escape.txt";
+  const std::string cut = moth.substr(0, moth.find("\"Mean fecundity\""));
+  std::ofstream(path, std::ios::binary) << replaced(cut, "weighed insect days", "weighed \x1B[31minsect days");
+  const CommandResult result = runCli("info " + path);
+  EXPECT_EQ(result.status, 1);
+  EXPECT_NE(result.err.find("last description read: \"Previous cumulative weighed \\x1B[31minsect days\""),
+            std::string::npos)
+      << result.err;
+  EXPECT_EQ(result.err.find('\x1B'), std::string::npos);
 }
 
 // What the command line says before it does any work: the usage where it
