@@ -1,5 +1,7 @@
 #include "cli/AnswerPrompter.h"
 
+#include "textio/NumberForms.h"
+
 #include <algorithm>
 #include <cctype>
 #include <fstream>
@@ -107,6 +109,10 @@ std::string AnswerPrompter::chooseFileToSave(const std::string& title) {
   const bool given = take(title, answer);
   show(title, "(file to save)", answer.empty() ? "(Cancel)" : answer, given);
   return answer;
+}
+
+void AnswerPrompter::noteNumberRead(const std::string&, const std::string&, double read) {
+  out_ << "    (read as the number " << digits(read) << ")\n";
 }
 
 } // namespace vorlex::cli

@@ -44,6 +44,8 @@ public:
   void inform(const std::string& prompt, const std::string& title) override;
   std::string chooseFileToOpen(const std::string& title) override;
   std::string chooseFileToSave(const std::string& title) override;
+  /// Shows, under the question, what number entry made of the answer.
+  void noteNumberRead(const std::string& title, const std::string& typed, double read) override;
 
 private:
   /// The next answer for a title, if one was given.

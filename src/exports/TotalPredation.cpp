@@ -94,8 +94,8 @@ void ReadTotalPredation(Session& session) {
   }
   session.files.close(kPredationFile);
 
-  m.PredationCoef = numberEntry(session.prompter().askValue(
-      "Enter a value between 0 and 1 to modify the predation rate", "Predation coefficient", "1"));
+  m.PredationCoef = askNumber(session.prompter(), "Enter a value between 0 and 1 to modify the predation rate",
+                              "Predation coefficient", "1");
   if (m.PredationCoef != 1) {
     const std::string stem = path.substr(0, path.size() >= 4 ? path.size() - 4 : 0);
     session.files.openOutput(kPredationFile, stem + "-" + digits(m.PredationCoef) + ".txt");

@@ -10,11 +10,8 @@ class Dialogue {
 public:
   explicit Dialogue(Session& session) : session_(session), m_(session.model()) {}
 
-  std::string ask(const std::string& title, const std::string& prompt, const std::string& defaultText) {
-    return session_.prompter().askValue(prompt, title, defaultText);
-  }
   double number(const std::string& title, const std::string& prompt, const std::string& defaultText) {
-    return numberEntry(ask(title, prompt, defaultText));
+    return askNumber(session_.prompter(), prompt, title, defaultText);
   }
   i16 integer(const std::string& title, const std::string& prompt, const std::string& defaultText) {
     return toInt16(number(title, prompt, defaultText));

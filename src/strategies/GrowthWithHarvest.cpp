@@ -19,7 +19,7 @@ namespace {
 // The harvest boxes show no prompt of their own: their sentences are kept
 // where nothing displays them.
 i16 askHarvestDay(Session& session, const std::string& title, const std::string& defaultText) {
-  return toInt16(numberEntry(session.prompter().askValue("", title, defaultText)));
+  return toInt16(askNumber(session.prompter(), "", title, defaultText));
 }
 
 std::string rule66(char c) { return " " + std::string(66, c); }

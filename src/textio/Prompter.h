@@ -22,7 +22,16 @@ public:
   virtual std::string chooseFileToOpen(const std::string& title) = 0;
   /// Chooses a file to save to; the empty text on Cancel.
   virtual std::string chooseFileToSave(const std::string& title) = 0;
+  /// Told when number entry read an answer as something else than typed
+  /// ("abc" as 0, "12abc" as 12), so that the user can see it.
+  virtual void noteNumberRead(const std::string& /*title*/, const std::string& /*typed*/, double /*read*/) {}
 };
+
+/// Asks for a value and reads it by number entry; an answer that is not a
+/// number as typed is accepted as the rules say, and the prompter is told
+/// what it was read as.
+double askNumber(Prompter& prompter, const std::string& prompt, const std::string& title,
+                 const std::string& defaultText);
 
 /// Stores a yes-or-no answer as the flags of the program hold it.
 inline std::string yesNo(bool yes) { return yes ? "Yes" : "No"; }

@@ -17,6 +17,25 @@ TEST(AnswerPrompter, TheValueFollowsTheLastEqualsSign) {
   EXPECT_EQ(out.str(), "[Each time unit =?] Enter the time unit => 0.5\n");
 }
 
+// Number entry takes what it can of an answer and says what it read.
+TEST(AnswerPrompter, ANumberReadOtherThanTypedIsShown) {
+  struct Case {
+    const char* answer;
+    double read;
+    const char* shown;
+  };
+  for (const Case& c : {Case{"Box=12abc", 12, "[Box] p => 12abc\n    (read as the number 12)\n"},
+                        Case{"Box=abc", 0, "[Box] p => abc\n    (read as the number 0)\n"},
+                        Case{"Box=", 0, "[Box] p => (Cancel)\n    (read as the number 0)\n"},
+                        Case{"Box= 0.50", .5, "[Box] p =>  0.50\n"}}) {
+    std::ostringstream out;
+    AnswerPrompter prompter(out);
+    prompter.addAnswer(c.answer);
+    EXPECT_EQ(askNumber(prompter, "p", "Box", "7"), c.read) << c.answer;
+    EXPECT_EQ(out.str(), c.shown) << c.answer;
+  }
+}
+
 TEST(AnswerPrompter, RepeatedTitlesTakeTheirAnswersInOrderThenDefaults) {
   std::ostringstream out;
   AnswerPrompter prompter(out);
