@@ -179,17 +179,17 @@ void MainForm::cmdInputLTdata_Click() {
                                      "(No: without C(x,j)",
                                      "Attention"));
   m.ReleaseDate =
-      toInt16(numberEntry(ask.askValue("What is the day that the initial population will be released?\n"
-                                       "(In general, it is day 0.)",
-                                       "Initial population released date?", "0")));
+      toInt16(askNumber(ask, "What is the day that the initial population will be released?\n"
+                             "(In general, it is day 0.)",
+                        "Initial population released date?", "0"));
   flags.OnlyTotalFigures = yesNo(ask.askYesNo(
       "Do you need only the figure data files of total population size and log(total population size)?",
       "Prepare only the data files of total population size and log(total)?"));
   m.TimeUnit =
-      numberEntry(ask.askValue("Enter the time unit of your data (1 = 1 day, 0.5 = 0.5 day, 0.3 = 8h, "
-                               "0.25 = 6 h, 0.2 = 4.8 h or 0.16 = 4 h).\n"
-                               "(For any other time unit, enter 1.)",
-                               "Each time unit =?", "1"));
+      askNumber(ask, "Enter the time unit of your data (1 = 1 day, 0.5 = 0.5 day, 0.3 = 8h, "
+                     "0.25 = 6 h, 0.2 = 4.8 h or 0.16 = 4 h).\n"
+                     "(For any other time unit, enter 1.)",
+                "Each time unit =?", "1");
 
   const std::string path = ask.chooseFileToOpen(kDataFileDialogTitle);
   if (path.empty())
