@@ -1,32 +1,17 @@
 #include "strategies/ControlledGrowth.h"
 
-#include "charts/ChartFamily.h"
-#include "datafile/DataFileWriter.h"
 #include "engine/AutoControl.h"
 #include "engine/DayStep.h"
 #include "engine/PopulationGrowth.h"
 #include "model/Session.h"
 #include "reports/CharacterPlots.h"
 #include "reports/ControlPages.h"
-#include "reports/FigureFiles.h"
 #include "reports/TitlePage.h"
 #include "strategies/ControlledStart.h"
 #include "strategies/DriverSteps.h"
 #include "textio/NumberForms.h"
 
 namespace vorlex {
-
-namespace {
-
-// What every controlled run writes once the report is done.
-void writeDerivedFilesAndFigures(Session& session) {
-  WriteDataFileForVorlexA(session);
-  WriteMatrixNforTimeT(session);
-  session.mainChart = ShowStageStructure(session);
-  SaveGraphicData(session);
-}
-
-} // namespace
 
 void PredefinedControl(Session& session) {
   const Model& m = session.model();
@@ -42,9 +27,7 @@ void PredefinedControl(Session& session) {
   // The title page follows the projection in this run.
   VorlexCPrintTitlePageAndBasicInfo(session);
   VorlexEPrintResults(session);
-  session.files.close(kReportFile);
-  writeDerivedFilesAndFigures(session);
-  session.controls["Command4"].enabled = true;
+  closeReportAndWriteFiles(session, {});
 }
 
 void AutoControlBasedonET(Session& session) {
@@ -63,9 +46,7 @@ void AutoControlBasedonET(Session& session) {
   VorlexCPrintTitlePageAndBasicInfo(session);
   VorlexEPrintResults(session);
   PrintSizeBeforeAndAfterControl(session);
-  session.files.close(kReportFile);
-  writeDerivedFilesAndFigures(session);
-  session.controls["Command4"].enabled = true;
+  closeReportAndWriteFiles(session, {});
 }
 
 } // namespace vorlex

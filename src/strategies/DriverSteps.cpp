@@ -1,6 +1,10 @@
 #include "strategies/DriverSteps.h"
 
+#include "charts/ChartFamily.h"
+#include "datafile/DataFileWriter.h"
 #include "model/Session.h"
+#include "reports/DeathFiles.h"
+#include "reports/FigureFiles.h"
 
 namespace vorlex {
 
@@ -20,6 +24,20 @@ void setMarks(Session& session, const char* optManagement, const char* growthMod
   Model& m = session.model();
   m.SeriesIndex = 0;
   m.DailyWID(m.Day) = 0;
+}
+
+void closeReportAndWriteFiles(Session& session, RunFiles files) {
+  session.files.close(kReportFile);
+  WriteDataFileForVorlexA(session);
+  WriteMatrixNforTimeT(session);
+  if (files.consumptionMatrix)
+    PrintCxj(session);
+  if (files.deathRateMatrix)
+    PrintDeathRatexj(session);
+  const bool lateRelease = files.lateReleaseChart && session.model().ReleaseDate != 0;
+  session.mainChart = lateRelease ? ShowStageStructureLateRelease(session) : ShowStageStructure(session);
+  SaveGraphicData(session);
+  session.controls["Command4"].enabled = true;
 }
 
 void noteLastDay(Session& session) {

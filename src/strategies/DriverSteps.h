@@ -15,6 +15,17 @@ void openRun(Session& session, const char* driverLine);
 void setMarks(Session& session, const char* optManagement, const char* growthMode, const char* fixedMark,
               const char* autoMark);
 
+/// What a run writes once its report pages are done: closes the report;
+/// writes the derived data file and the matrix file, the consumption and
+/// death-rate matrix files where the strategy writes them; fills the
+/// run's chart; writes the figure files; opens the large graphs.
+struct RunFiles {
+  bool consumptionMatrix = false;
+  bool deathRateMatrix = false;
+  bool lateReleaseChart = false; // the late-release twin of the stage chart when ReleaseDate is not 0
+};
+void closeReportAndWriteFiles(Session& session, RunFiles files);
+
 /// Keeps the last day of the series the projection filled: SimTime, or the
 /// day the population died out.
 void noteLastDay(Session& session);

@@ -1,11 +1,7 @@
-#include "charts/ChartFamily.h"
-#include "datafile/DataFileWriter.h"
 #include "engine/PopulationGrowth.h"
 #include "model/InitialCalculation.h"
 #include "model/Session.h"
 #include "reports/CharacterPlots.h"
-#include "reports/DeathFiles.h"
-#include "reports/FigureFiles.h"
 #include "reports/TitlePage.h"
 #include "strategies/ControlledGrowth.h"
 #include "strategies/DriverSteps.h"
@@ -70,13 +66,7 @@ void GrowthWithHarvest(Session& session) {
   VorlexDPopulationGrowth(session);
   noteLastDay(session);
   VorlexEPrintResults(session);
-  session.files.close(kReportFile);
-  WriteDataFileForVorlexA(session);
-  WriteMatrixNforTimeT(session);
-  PrintCxj(session);
-  session.mainChart = ShowStageStructure(session);
-  SaveGraphicData(session);
-  session.controls["Command4"].enabled = true;
+  closeReportAndWriteFiles(session, {.consumptionMatrix = true});
   session.files.close(kHarvestFile);
 }
 

@@ -1,7 +1,6 @@
 #include "strategies/UnlimitedGrowth.h"
 
 #include "charts/ChartFamily.h"
-#include "datafile/DataFileWriter.h"
 #include "engine/GrowthToLambda.h"
 #include "engine/GrowthUnderPredation.h"
 #include "engine/PopulationGrowth.h"
@@ -9,7 +8,6 @@
 #include "model/InitialCalculation.h"
 #include "model/Session.h"
 #include "reports/CharacterPlots.h"
-#include "reports/DeathFiles.h"
 #include "reports/FigureFiles.h"
 #include "reports/TitlePage.h"
 #include "strategies/DriverSteps.h"
@@ -21,7 +19,6 @@ void UnlimitedGrowth(Session& session) {
   // Extra mortality is a run without control too, and is reported as one;
   // the blank growth mode is the plain day step.
   setMarks(session, "OptNoControl", " ", "", "");
-  Model& m = session.model();
   if (session.flags.ExtraMortalityOption == "Yes")
     askExtraMortality(session);
 
@@ -30,14 +27,7 @@ void UnlimitedGrowth(Session& session) {
   VorlexDPopulationGrowth(session);
   noteLastDay(session);
   VorlexEPrintResults(session);
-  session.files.close(kReportFile);
-  WriteDataFileForVorlexA(session);
-  WriteMatrixNforTimeT(session);
-  PrintCxj(session);
-  PrintDeathRatexj(session);
-  session.mainChart = m.ReleaseDate != 0 ? ShowStageStructureLateRelease(session) : ShowStageStructure(session);
-  SaveGraphicData(session);
-  session.controls["Command4"].enabled = true;
+  closeReportAndWriteFiles(session, {.consumptionMatrix = true, .deathRateMatrix = true, .lateReleaseChart = true});
 }
 
 void GrowthToLambda(Session& session) {
@@ -62,14 +52,7 @@ void GrowthUnderPredation(Session& session) {
   VorlexDGrowthUnderPredation(session);
   noteLastDay(session);
   VorlexEPrintResults(session);
-  session.files.close(kReportFile);
-  WriteDataFileForVorlexA(session);
-  WriteMatrixNforTimeT(session);
-  PrintCxj(session);
-  PrintDeathRatexj(session);
-  session.mainChart = ShowStageStructure(session);
-  SaveGraphicData(session);
-  session.controls["Command4"].enabled = true;
+  closeReportAndWriteFiles(session, {.consumptionMatrix = true, .deathRateMatrix = true});
 }
 
 } // namespace vorlex

@@ -12,15 +12,6 @@
 namespace vorlex::testing {
 namespace {
 
-class RecordingPrompts : public NoPrompts {
-public:
-  std::string lastTitle, lastText;
-  void inform(const std::string& text, const std::string& title) override {
-    lastText = text;
-    lastTitle = title;
-  }
-};
-
 class AutoControl : public ::testing::Test {
 protected:
   RecordingPrompts prompts;

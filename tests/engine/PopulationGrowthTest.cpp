@@ -9,15 +9,6 @@
 namespace vorlex::testing {
 namespace {
 
-class RecordingPrompts : public NoPrompts {
-public:
-  std::string lastTitle, lastText;
-  void inform(const std::string& text, const std::string& title) override {
-    lastText = text;
-    lastTitle = title;
-  }
-};
-
 double ln1(double v) { return std::log(v + 1); }
 
 // The hand-made table: eggs at ages 0-1, female and male at ages 1-3; on

@@ -93,15 +93,6 @@ TEST_F(DayZero, EmptyPopulationStopsAtTheFractionsBeforeTheGuard) {
   EXPECT_EQ(errorOf([&] { VorlexBGoS90BeginningCal(*t.session); }).number(), 6);
 }
 
-class RecordingPrompts : public NoPrompts {
-public:
-  std::string lastTitle, lastText;
-  void inform(const std::string& text, const std::string& title) override {
-    lastText = text;
-    lastTitle = title;
-  }
-};
-
 TEST(DayZeroGuard, ZeroTotalWithIndividualsLeftEndsWithAMessage) {
   RecordingPrompts prompts;
   Session session(prompts);

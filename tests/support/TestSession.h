@@ -15,6 +15,16 @@ namespace vorlex::testing {
 /// A prompter for tests that never asks anything.
 using NoPrompts = SilentPrompter;
 
+/// A prompter that never asks and keeps the last message it was to show.
+class RecordingPrompts : public NoPrompts {
+public:
+  std::string lastTitle, lastText;
+  void inform(const std::string& text, const std::string& title) override {
+    lastText = text;
+    lastTitle = title;
+  }
+};
+
 /// A session of its own with a prompter that never asks.
 struct TestSession {
   NoPrompts prompts;
