@@ -28,7 +28,9 @@ std::string digits(double value) {
 
   // 15 significant digits, correctly rounded: "d.dddddddddddddde+XX".
   char buffer[40];
-  std::snprintf(buffer, sizeof buffer, "%.14e", std::fabs(value));
+  const auto written = std::to_chars(buffer, buffer + sizeof buffer - 1, std::fabs(value),
+                                     std::chars_format::scientific, 14);
+  *written.ptr = '\0';
   std::string mantissa;
   const char* p = buffer;
   for (; *p != 'e'; ++p)
