@@ -1,6 +1,7 @@
 #include "ChartDrawing.h"
 
 #include <QChart>
+#include <QLegend>
 #include <QLineSeries>
 #include <QValueAxis>
 
@@ -91,6 +92,8 @@ QChart* buildChart(const ChartContent& content) {
 
   chart->legend()->setVisible(content.showLegend);
   chart->legend()->setAlignment(Qt::AlignRight);
+  // A label cut short in a small chart shows whole as its tool tip.
+  chart->legend()->setShowToolTips(true);
   return chart;
 }
 

@@ -6,9 +6,14 @@
 #include <QApplication>
 #include <QClipboard>
 #include <QContextMenuEvent>
+#include <QFontMetricsF>
+#include <QHelpEvent>
 #include <QMenu>
 #include <QPainter>
 #include <QSvgGenerator>
+#include <QToolTip>
+
+#include <algorithm>
 
 namespace vorlex::ui {
 
@@ -23,6 +28,36 @@ void ChartView::showContent(const ChartContent& content) {
   QChart* old = chart();
   setChart(buildChart(content_));
   delete old;
+  fitTitle();
+}
+
+void ChartView::fitTitle() {
+  QChart* shown = chart();
+  const QString title = QString::fromStdString(content_.title);
+  // The title may use the chart's width less its margins, and a little
+  // more room at each end than Qt Charts itself leaves.
+  const QMargins margins = shown->margins();
+  const qreal room = std::max<qreal>(0, width() - margins.left() - margins.right() - 24);
+  const QFontMetricsF metrics(shown->titleFont());
+  const QString fitted =
+      metrics.horizontalAdvance(title) <= room ? title : metrics.elidedText(title, Qt::ElideRight, room);
+  titleCut_ = fitted != title;
+  if (shown->title() != fitted)
+    shown->setTitle(fitted);
+}
+
+bool ChartView::event(QEvent* event) {
+  if (event->type() == QEvent::ToolTip && titleCut_) {
+    QToolTip::showText(static_cast<QHelpEvent*>(event)->globalPos(), QString::fromStdString(content_.title),
+                       this);
+    return true;
+  }
+  return QChartView::event(event);
+}
+
+void ChartView::resizeEvent(QResizeEvent* event) {
+  QChartView::resizeEvent(event);
+  fitTitle();
 }
 
 bool ChartView::savePng(const QString& path) { return grab().save(path, "PNG"); }
@@ -46,9 +81,11 @@ void ChartView::copyData() {
 }
 
 void ChartView::mousePressEvent(QMouseEvent* event) {
+  // The view is done with the press before the activation may replace the
+  // chart (or, after a run-time error, start the session again).
+  QChartView::mousePressEvent(event);
   if (event->button() == Qt::LeftButton)
     emit activated();
-  QChartView::mousePressEvent(event);
 }
 
 void ChartView::contextMenuEvent(QContextMenuEvent* event) {

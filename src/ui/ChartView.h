@@ -10,9 +10,10 @@ namespace vorlex::ui {
 
 /// Draws a chart record with Qt Charts: x-y lines, the legend at the right
 /// when the record has one, titles in their fonts, grid lines as the axes
-/// ask. A left click activates the chart (the owner steps its cycle); the
-/// right-click menu saves the chart as PNG or SVG and copies its data as
-/// comma-separated text.
+/// ask. A title wider than the chart is cut short with an ellipsis, and the
+/// whole title shows as the tool tip. A left click activates the chart (the
+/// owner steps its cycle); the right-click menu saves the chart as PNG or
+/// SVG and copies its data as comma-separated text.
 class ChartView : public QChartView {
   Q_OBJECT
 public:
@@ -21,6 +22,8 @@ public:
   /// Shows a chart record, replacing what was shown.
   void showContent(const ChartContent& content);
   const ChartContent& content() const { return content_; }
+  /// Whether the title is cut short to fit the chart's width.
+  bool titleCut() const { return titleCut_; }
 
   /// Asks where to save a picture; the empty text when the user cancels.
   /// Without one, saving from the menu does nothing.
@@ -41,11 +44,17 @@ signals:
   void activated();
 
 protected:
+  bool event(QEvent* event) override;
+  void resizeEvent(QResizeEvent* event) override;
   void mousePressEvent(QMouseEvent* event) override;
   void contextMenuEvent(QContextMenuEvent* event) override;
 
 private:
+  /// Shows as much of the record's title as the chart's width takes.
+  void fitTitle();
+
   ChartContent content_;
+  bool titleCut_ = false;
 };
 
 } // namespace vorlex::ui

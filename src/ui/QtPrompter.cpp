@@ -2,8 +2,11 @@
 
 #include <QApplication>
 #include <QFileDialog>
+#include <QHeaderView>
 #include <QInputDialog>
 #include <QMessageBox>
+#include <QScreen>
+#include <QTreeView>
 
 namespace vorlex::ui {
 
@@ -59,11 +62,31 @@ std::string chooseFile(QWidget* parent, const std::string& title, QFileDialog::A
   QFileDialog dialog(parent, q(title), QString(), QtPrompter::kFileFilter);
   dialog.setAcceptMode(mode);
   dialog.setFileMode(mode == QFileDialog::AcceptOpen ? QFileDialog::ExistingFile : QFileDialog::AnyFile);
+  // Names and dates side by side, in a dialog large enough for both, as
+  // far as the screen allows.
+  dialog.setViewMode(QFileDialog::Detail);
+  dialog.resize(QtPrompter::fileDialogSize(parent));
+  // The name takes the room the size, type and date leave; those three
+  // keep the width of what they show.
+  if (auto* files = dialog.findChild<QTreeView*>(QStringLiteral("treeView"))) {
+    QHeaderView* header = files->header();
+    header->setStretchLastSection(false);
+    header->setSectionResizeMode(QHeaderView::ResizeToContents);
+    header->setSectionResizeMode(0, QHeaderView::Stretch);
+  }
   if (dialog.exec() != QDialog::Accepted || dialog.selectedFiles().isEmpty())
     return {};
   return dialog.selectedFiles().constFirst().toStdString();
 }
 } // namespace
+
+QSize QtPrompter::fileDialogSize(QWidget* parent) {
+  const QSize wanted(900, 600);
+  QScreen* screen = parent ? parent->screen() : QGuiApplication::primaryScreen();
+  if (!screen)
+    return wanted;
+  return wanted.boundedTo(screen->availableGeometry().size() * 0.95);
+}
 
 std::string QtPrompter::chooseFileToOpen(const std::string& title) {
   return chooseFile(parent_, title, QFileDialog::AcceptOpen);

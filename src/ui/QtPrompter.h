@@ -2,6 +2,8 @@
 
 #include "textio/Prompter.h"
 
+#include <QSize>
+
 class QWidget;
 
 namespace vorlex::ui {
@@ -9,7 +11,8 @@ namespace vorlex::ui {
 /// Asks the user with the dialogs of the desktop: an input box with the
 /// default text ready (Cancel gives the empty text), a question with Yes
 /// and No and no icon, a notice with OK, and the file dialogs with a filter
-/// for text files and one for all files.
+/// for text files and one for all files, opening in the detail view with
+/// room for names and dates.
 class QtPrompter : public Prompter {
 public:
   /// Dialogs are centred on `parent` when it shows.
@@ -22,6 +25,10 @@ public:
   void inform(const std::string& prompt, const std::string& title) override;
   std::string chooseFileToOpen(const std::string& title) override;
   std::string chooseFileToSave(const std::string& title) override;
+
+  /// The size the file dialogs open at: 900 x 600, or less on a screen too
+  /// small for that.
+  static QSize fileDialogSize(QWidget* parent);
 
   /// The filter of the file dialogs.
   static constexpr const char* kFileFilter = "Text files (*.txt);;All files (*)";

@@ -9,6 +9,7 @@
 #include <QImage>
 #include <QLegend>
 #include <QLineSeries>
+#include <QToolTip>
 #include <QValueAxis>
 #include <QtTest>
 
@@ -47,6 +48,54 @@ QValueAxis* axisOf(QChart& chart, Qt::Orientation orientation) {
 class ChartDrawingTest : public QObject {
   Q_OBJECT
 private slots:
+  void aTitleTooWideIsCutShortWithTheWholeTitleAsToolTip() {
+    ChartContent content = eggAndLarva();
+    content.title = "Total population size (T) and weighted vulnerable size (W) after release, day 0 to 60";
+    const QString whole = QString::fromStdString(content.title);
+    vorlex::ui::ChartView view;
+    view.setToolTip(QStringLiteral("a hint of the form"));
+    view.resize(300, 240);
+    view.showContent(content);
+    view.show();
+    QApplication::processEvents();
+    QVERIFY(view.titleCut());
+    const QString shown = view.chart()->title();
+    QVERIFY2(shown.endsWith(QChar(0x2026)), qPrintable(shown));
+    QVERIFY(shown.size() > 5);
+    QVERIFY(whole.startsWith(shown.chopped(1)));
+    const QMargins margins = view.chart()->margins();
+    QVERIFY(QFontMetricsF(view.chart()->titleFont()).horizontalAdvance(shown) <=
+            view.width() - margins.left() - margins.right());
+    QVERIFY(view.grab().save(vorlex::testing::screenshotPath(QStringLiteral("chart-title-cut.png"))));
+
+    auto toolTipAt = [&view](QPoint at) {
+      QHelpEvent help(QEvent::ToolTip, at, view.mapToGlobal(at));
+      QApplication::sendEvent(&view, &help);
+      const QString text = QToolTip::text();
+      QToolTip::hideText();
+      return text;
+    };
+    QCOMPARE(toolTipAt(QPoint(150, 20)), whole);
+
+    // Wide enough, the whole title shows and the form's hint is the tool tip.
+    view.resize(1800, 500);
+    QApplication::processEvents();
+    QVERIFY(!view.titleCut());
+    QCOMPARE(view.chart()->title(), whole);
+    QCOMPARE(toolTipAt(QPoint(150, 20)), QStringLiteral("a hint of the form"));
+    // Narrow again, and a new record: cut again.
+    view.resize(300, 240);
+    content.title += " and beyond";
+    view.showContent(content);
+    QApplication::processEvents();
+    QVERIFY(view.titleCut());
+    QCOMPARE(toolTipAt(QPoint(150, 20)), whole + " and beyond");
+    // A short title fits a small chart whole.
+    view.showContent(eggAndLarva());
+    QVERIFY(!view.titleCut());
+    QCOMPARE(view.chart()->title(), QStringLiteral("Stage size curves"));
+  }
+
   void seriesLegendTitlesAndGridFollowTheRecord() {
     std::unique_ptr<QChart> chart(vorlex::ui::buildChart(eggAndLarva()));
     QCOMPARE(chart->title(), QStringLiteral("Stage size curves"));
@@ -62,6 +111,7 @@ private slots:
 
     QVERIFY(chart->legend()->isVisible());
     QCOMPARE(chart->legend()->alignment(), Qt::AlignRight);
+    QVERIFY(chart->legend()->showToolTips());
 
     QValueAxis* x = axisOf(*chart, Qt::Horizontal);
     QValueAxis* y = axisOf(*chart, Qt::Vertical);

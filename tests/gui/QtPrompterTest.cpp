@@ -4,10 +4,12 @@
 
 #include <QAbstractButton>
 #include <QFileDialog>
+#include <QHeaderView>
 #include <QInputDialog>
 #include <QLineEdit>
 #include <QMessageBox>
 #include <QPushButton>
+#include <QTreeView>
 #include <QtTest>
 
 using vorlex::testing::whenDialogShows;
@@ -108,6 +110,57 @@ private slots:
 
     whenDialogShows([](QWidget* dialog) { qobject_cast<QDialog*>(dialog)->reject(); });
     QCOMPARE(prompter.chooseFileToSave("Save the chart as PNG"), std::string());
+  }
+
+  void fileDialogsOpenLargeWithNamesAndDatesInView() {
+    QtPrompter prompter;
+    QTemporaryDir dir;
+    for (const char* name : {"moth.txt", "a data file with a rather long name of its own.txt"}) {
+      QFile file(dir.filePath(QString::fromLatin1(name)));
+      QVERIFY(file.open(QIODevice::WriteOnly));
+    }
+    // As large as asked, unless the screen is smaller (the offscreen one is).
+    const QSize expected =
+        QSize(900, 600).boundedTo(QGuiApplication::primaryScreen()->availableGeometry().size() * 0.95);
+    QVERIFY(expected.width() >= 700 && expected.height() >= 500);
+    for (const bool open : {true, false}) {
+      QSize size;
+      QFileDialog::ViewMode mode = QFileDialog::List;
+      int dateEnd = -1, viewWidth = 0;
+      whenDialogShows([&](QWidget* dialog) {
+        if (auto* files = qobject_cast<QFileDialog*>(dialog)) {
+          files->setDirectory(dir.path());
+          // The folder is read in the background.
+          auto* tree = files->findChild<QTreeView*>(QStringLiteral("treeView"));
+          QTRY_VERIFY_WITH_TIMEOUT(tree && tree->model()->rowCount(tree->rootIndex()) == 2, 10000);
+          QApplication::processEvents();
+          size = files->size();
+          mode = files->viewMode();
+          QHeaderView* header = tree->header();
+          const int date = header->count() - 1; // name, size, type, date modified
+          if (!header->isSectionHidden(date))
+            dateEnd = header->sectionViewportPosition(date) + header->sectionSize(date);
+          viewWidth = tree->viewport()->width();
+          // Every name and date whole in its column.
+          for (const int column : {0, date})
+            if (static_cast<QAbstractItemView*>(tree)->sizeHintForColumn(column) >
+                header->sectionSize(column))
+              dateEnd = -2 - column;
+          if (open)
+            files->grab().save(vorlex::testing::screenshotPath(QStringLiteral("file-dialog.png")));
+        }
+        qobject_cast<QDialog*>(dialog)->reject();
+      });
+      if (open)
+        prompter.chooseFileToOpen("Open the vorlex data file");
+      else
+        prompter.chooseFileToSave("Save the chart as PNG");
+      QCOMPARE(size, expected);
+      QCOMPARE(mode, QFileDialog::Detail);
+      // The dates show beside the names without scrolling.
+      QVERIFY2(dateEnd > 0 && dateEnd <= viewWidth,
+               qPrintable(QStringLiteral("%1 of %2").arg(dateEnd).arg(viewWidth)));
+    }
   }
 };
 
