@@ -13,6 +13,7 @@
 
 #include <QApplication>
 #include <QMessageBox>
+#include <QPushButton>
 
 #include <clocale>
 #include <ctime>
@@ -45,13 +46,19 @@ const std::map<QString, Handler>& mainHandlers() {
 } // namespace
 
 Desktop::Desktop(Prompter& prompter)
-    : session_(prompter), form_(session_), mainWindow_(std::make_unique<MainWindow>()),
+    : prompter_(prompter), session_(std::make_unique<Session>(prompter)),
+      form_(std::make_unique<MainForm>(*session_)), mainWindow_(std::make_unique<MainWindow>()),
       largeGraphWindow_(std::make_unique<LargeGraphWindow>()) {
   // The application takes the user's locale for everything; numbers in the
   // files must keep the decimal point whatever the user's locale says.
   std::setlocale(LC_NUMERIC, "C");
   showError = [this](const QString& title, const QString& text) {
-    QMessageBox::critical(mainWindow_->isVisible() ? mainWindow_.get() : nullptr, title, text);
+    std::unique_ptr<QMessageBox> box(
+        errorBox(mainWindow_->isVisible() ? mainWindow_.get() : nullptr, title, text));
+    box->exec();
+    return box->clickedButton() && box->buttonRole(box->clickedButton()) == QMessageBox::AcceptRole
+               ? AfterError::StartAgain
+               : AfterError::Quit;
   };
   printForm = [](QWidget& form) { printFormWithDialog(form); };
 
@@ -64,33 +71,16 @@ Desktop::Desktop(Prompter& prompter)
   connect(large, &LargeGraphWindow::controlClicked, this, &Desktop::clickLargeGraphs);
   connect(large, &LargeGraphWindow::chartActivated, this, &Desktop::activateLargeChart);
   connect(large, &LargeGraphWindow::closing, this, [this] {
-    if (formShows(session_, forms::kLargeGraphs))
-      handle([this] { form_.largeGraphs().Form_Unload(); });
+    if (formShows(*session_, forms::kLargeGraphs))
+      handle([this] { form_->largeGraphs().Form_Unload(); });
   });
 
   // Charts can be saved as pictures wherever they show.
-  auto chooseFile = [this](const std::string& title) { return session_.prompter().chooseFileToSave(title); };
+  auto chooseFile = [this](const std::string& title) { return session_->prompter().chooseFileToSave(title); };
   for (ChartView* view : {main->mainChart(), main->samplingChart(), large->chart()})
     view->chooseFileToSave = chooseFile;
 
-  // The information screens go back to the main form; the closing screen
-  // ends the program.
-  std::vector<std::string> informationForms(std::begin(forms::kIntroductions),
-                                            std::end(forms::kIntroductions));
-  informationForms.insert(informationForms.end(), {forms::kReferences, forms::kHowToPrint});
-  for (const std::string& name : informationForms) {
-    InfoScreen* screen = makeInformationScreen(QString::fromStdString(name));
-    connect(screen, &InfoScreen::backClicked, this,
-            [this, name] { handle([this, name] { form_.returnFrom(name); }); });
-    otherForms_[name].reset(screen);
-  }
-  auto* quiz = new QuizScreen;
-  connect(quiz, &QuizScreen::backClicked, this,
-          [this] { handle([this] { form_.returnFrom(forms::kQuiz); }); });
-  otherForms_[forms::kQuiz].reset(quiz);
-  auto* closing = new ClosingScreen;
-  connect(closing, &ClosingScreen::endClicked, this, [this] { endProgram(0); });
-  otherForms_[forms::kClosing].reset(closing);
+  buildOtherForms();
 
   timer1_.setInterval(1000);
   connect(&timer1_, &QTimer::timeout, this, &Desktop::tick);
@@ -98,8 +88,36 @@ Desktop::Desktop(Prompter& prompter)
 
 Desktop::~Desktop() = default;
 
+void Desktop::buildOtherForms() {
+  // The information screens go back to the main form; the closing screen
+  // ends the program. A screen of an ended session may still be in the
+  // middle of a signal: it goes once that is over.
+  for (auto& [name, window] : otherForms_) {
+    window->hide();
+    disconnect(window.get(), nullptr, this, nullptr);
+    window.release()->deleteLater();
+  }
+  otherForms_.clear();
+  std::vector<std::string> informationForms(std::begin(forms::kIntroductions),
+                                            std::end(forms::kIntroductions));
+  informationForms.insert(informationForms.end(), {forms::kReferences, forms::kHowToPrint});
+  for (const std::string& name : informationForms) {
+    InfoScreen* screen = makeInformationScreen(QString::fromStdString(name));
+    connect(screen, &InfoScreen::backClicked, this,
+            [this, name] { handle([this, name] { form_->returnFrom(name); }); });
+    otherForms_[name].reset(screen);
+  }
+  auto* quiz = new QuizScreen;
+  connect(quiz, &QuizScreen::backClicked, this,
+          [this] { handle([this] { form_->returnFrom(forms::kQuiz); }); });
+  otherForms_[forms::kQuiz].reset(quiz);
+  auto* closing = new ClosingScreen;
+  connect(closing, &ClosingScreen::endClicked, this, [this] { endProgram(0); });
+  otherForms_[forms::kClosing].reset(closing);
+}
+
 void Desktop::start() {
-  handle([this] { form_.Form_Load(); });
+  handle([this] { form_->Form_Load(); });
   tick();
   timer1_.start();
 }
@@ -134,12 +152,12 @@ void Desktop::clickMain(const QString& control) {
           QApplication::restoreOverrideCursor();
       }
     } restore{run};
-    (form_.*handler)();
+    ((*form_).*handler)();
   });
 }
 
 void Desktop::clickLargeGraphs(const QString& control) {
-  LargeGraphForm& large = form_.largeGraphs();
+  LargeGraphForm& large = form_->largeGraphs();
   if (control == QLatin1String("Command1"))
     printForm(*largeGraphWindow_);
   else if (control == QLatin1String("Command4"))
@@ -151,18 +169,18 @@ void Desktop::clickLargeGraphs(const QString& control) {
 }
 
 void Desktop::activateMainChart() {
-  handle([this] { MSChart1_Activate(session_); });
+  handle([this] { MSChart1_Activate(*session_); });
 }
 
 void Desktop::activateLargeChart() {
-  handle([this] { grafform::MSChart1_Activate(session_); });
+  handle([this] { grafform::MSChart1_Activate(*session_); });
 }
 
 void Desktop::handle(const std::function<void()>& handler) {
   if (ended_)
     return;
   // What the user typed reaches the session before any handler reads it.
-  mainWindow_->takeTexts(session_);
+  mainWindow_->takeTexts(*session_);
   try {
     handler();
   } catch (const RuntimeError& error) {
@@ -172,8 +190,7 @@ void Desktop::handle(const std::function<void()>& handler) {
                        .arg(QString::fromStdString(error.text()));
     if (!error.where().empty())
       text += QStringLiteral("\n\n") + QString::fromStdString(error.where());
-    showError(QStringLiteral("Vorlex"), text);
-    endProgram(1);
+    afterError(text);
     return;
   } catch (const ProgramEnd&) {
     // The user has been told why already.
@@ -185,31 +202,47 @@ void Desktop::handle(const std::function<void()>& handler) {
 }
 
 void Desktop::showAll() {
-  mainWindow_->showStates(session_, form_);
-  largeGraphWindow_->showStates(session_);
+  mainWindow_->showStates(*session_, *form_);
+  largeGraphWindow_->showStates(*session_);
   showCharts();
   for (const std::string& form : {std::string(forms::kMainform), std::string(forms::kLargeGraphs)})
-    formWindow(form)->setVisible(formShows(session_, form));
+    formWindow(form)->setVisible(formShows(*session_, form));
   for (const auto& [name, window] : otherForms_)
-    window->setVisible(formShows(session_, name));
+    window->setVisible(formShows(*session_, name));
 }
 
 void Desktop::showCharts() {
   // Rebuilding a chart costs; only a chart whose record changed is drawn.
   ChartView* main = mainWindow_->mainChart();
-  if (main->content() != session_.mainChart)
-    main->showContent(session_.mainChart);
+  if (main->content() != session_->mainChart)
+    main->showContent(session_->mainChart);
   ChartView* large = largeGraphWindow_->chart();
-  if (large->content() != session_.largeChart)
-    large->showContent(session_.largeChart);
+  if (large->content() != session_->largeChart)
+    large->showContent(session_->largeChart);
 }
 
-void Desktop::endProgram(int exitCode) {
+QMessageBox* Desktop::errorBox(QWidget* parent, const QString& title, const QString& text) {
+  auto* box = new QMessageBox(QMessageBox::Critical, title, text, QMessageBox::NoButton, parent);
+  box->setInformativeText(tr(
+      "This session has ended; its files are closed as they stand. Start again with a fresh form, or quit?"));
+  box->setDefaultButton(box->addButton(tr(kStartAgain), QMessageBox::AcceptRole));
+  box->setEscapeButton(static_cast<QAbstractButton*>(box->addButton(tr(kQuit), QMessageBox::RejectRole)));
+  return box;
+}
+
+void Desktop::endSession() {
   if (ended_)
     return;
   ended_ = true;
   timer1_.stop();
-  session_.files.closeAll();
+  session_->files.closeAll();
+}
+
+void Desktop::endProgram(int exitCode) {
+  if (programOver_)
+    return;
+  programOver_ = true;
+  endSession();
   for (const auto& [name, window] : otherForms_)
     window->hide();
   largeGraphWindow_->hide();
@@ -217,13 +250,39 @@ void Desktop::endProgram(int exitCode) {
   emit programEnded(exitCode);
 }
 
+void Desktop::afterError(const QString& text) {
+  // The session ends as the command line's does; the windows stay, showing
+  // where it stopped, until the user has chosen.
+  endSession();
+  if (showError(QStringLiteral("Vorlex"), text) == AfterError::StartAgain)
+    startAgain();
+  else
+    endProgram(1);
+}
+
+void Desktop::startAgain() {
+  // The form logic refers to its session: it goes first.
+  form_.reset();
+  session_ = std::make_unique<Session>(prompter_);
+  form_ = std::make_unique<MainForm>(*session_);
+  buildOtherForms();
+  ended_ = false;
+  // The widgets take the fresh session's controls before anything reads
+  // them back: nothing typed, chosen or shown in the ended session carries
+  // over.
+  mainWindow_->clearChoices();
+  showAll();
+  start();
+  emit sessionRestarted();
+}
+
 void Desktop::tick() {
   const std::time_t now = std::time(nullptr);
   std::tm local{};
   localtime_r(&now, &local);
-  form_.Timer1_Timer(local);
-  mainWindow_->showLabel(session_, "lblClock");
-  mainWindow_->showLabel(session_, "lblGreeting");
+  form_->Timer1_Timer(local);
+  mainWindow_->showLabel(*session_, "lblClock");
+  mainWindow_->showLabel(*session_, "lblGreeting");
 }
 
 } // namespace vorlex::ui

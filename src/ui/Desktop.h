@@ -11,6 +11,7 @@
 #include <map>
 #include <memory>
 
+class QMessageBox;
 class QWidget;
 
 namespace vorlex {
@@ -26,8 +27,9 @@ class MainWindow;
 /// and the windows that show it. A click on a control runs its handler of
 /// the main form logic, then every window shows the states the handler
 /// left: which forms show, what each control says and whether it is
-/// enabled, what the charts hold. Run-time errors end the program after
-/// their message, as they end the command line.
+/// enabled, what the charts hold. A run-time error ends the session as it
+/// ends the command line: its message, the files closed as they stand; then
+/// the user starts again with a fresh session or quits.
 class Desktop : public QObject {
   Q_OBJECT
 public:
@@ -39,8 +41,9 @@ public:
   /// Loads the main form and shows it; Timer1 starts.
   void start();
 
-  Session& session() { return session_; }
-  MainForm& form() { return form_; }
+  /// The session on show; a fresh one after "Start again".
+  Session& session() { return *session_; }
+  MainForm& form() { return *form_; }
   MainWindow& mainWindow() { return *mainWindow_; }
   LargeGraphWindow& largeGraphWindow() { return *largeGraphWindow_; }
   /// The window of a form by its name ("Mainform", "grafform", "Quiz", ...).
@@ -53,32 +56,50 @@ public:
   void activateMainChart();
   void activateLargeChart();
 
-  /// Shows a run-time error; a message box unless tests replace it.
-  std::function<void(const QString& title, const QString& text)> showError;
+  /// What the user chose after a run-time error ended the session.
+  enum class AfterError { StartAgain, Quit };
+  /// Shows the message of a run-time error that ended the session and asks
+  /// what now: a message box with the message, "Start again" and "Quit",
+  /// unless tests replace it.
+  std::function<AfterError(const QString& title, const QString& text)> showError;
+  /// The message box of showError, parented to `parent`; the caller runs it.
+  static QMessageBox* errorBox(QWidget* parent, const QString& title, const QString& text);
+  /// Button captions of that box.
+  static constexpr const char* kStartAgain = "Start again";
+  static constexpr const char* kQuit = "Quit";
   /// Prints a form; the print dialog unless tests replace it.
   std::function<void(QWidget& form)> printForm;
 
+  /// Whether the session has ended (its files closed, nothing runs).
   bool ended() const { return ended_; }
 
 signals:
   /// The program ends with this exit code: the closing screen's button,
-  /// the main form closed, or a run-time error.
+  /// the main form closed, or Quit after a run-time error (status 1).
   void programEnded(int exitCode);
+  /// A fresh session has started after a run-time error.
+  void sessionRestarted();
 
 private:
   void handle(const std::function<void()>& handler);
   void showAll();
   void showCharts();
+  void endSession();
   void endProgram(int exitCode);
+  void afterError(const QString& text);
+  void startAgain();
+  void buildOtherForms();
   void tick();
 
-  Session session_;
-  MainForm form_;
+  Prompter& prompter_;
+  std::unique_ptr<Session> session_;
+  std::unique_ptr<MainForm> form_;
   std::unique_ptr<MainWindow> mainWindow_;
   std::unique_ptr<LargeGraphWindow> largeGraphWindow_;
   std::map<std::string, std::unique_ptr<QWidget>> otherForms_;
   QTimer timer1_;
   bool ended_ = false;
+  bool programOver_ = false;
 };
 
 } // namespace vorlex::ui

@@ -28,7 +28,9 @@ LargeGraphWindow::LargeGraphWindow(QWidget* parent) : QWidget(parent) {
 
   chart_ = new ChartView;
   chart_->setObjectName(QStringLiteral("MSChart1"));
-  chart_->setMinimumSize(760, 520);
+  // The chart takes the room the buttons leave; a small window still has
+  // a readable chart beside them.
+  chart_->setMinimumSize(400, 300);
   connect(chart_, &ChartView::activated, this, &LargeGraphWindow::chartActivated);
 
   auto* frame = new QGroupBox;

@@ -13,6 +13,7 @@
 #include <QLineEdit>
 #include <QPushButton>
 #include <QRadioButton>
+#include <QScrollArea>
 #include <QVBoxLayout>
 
 namespace vorlex::ui {
@@ -77,35 +78,43 @@ MainWindow::MainWindow(QWidget* parent) : QWidget(parent) {
   auto* dataFile = textBox("txtDatafile");
   dataFile->setReadOnly(true);
   dataFile->setStyleSheet(QStringLiteral("QLineEdit { background: yellow; color: black; }"));
-  dataFile->setMinimumWidth(260);
-  steps->addLayout(stepRow("2.", {button("cmdInputLTdata"), dataFile}));
+  dataFile->setMinimumWidth(200);
+  QHBoxLayout* dataRow = stepRow("2.", {button("cmdInputLTdata"), dataFile});
+  // The file's path takes the width the steps have.
+  dataRow->setStretchFactor(dataFile, 10);
+  steps->addLayout(dataRow);
 
   auto* frame4 = new QGroupBox;
   frame4->setObjectName(QStringLiteral("Frame4"));
-  auto* options = new QGridLayout(frame4);
+  options_ = new QGridLayout(frame4);
   for (int n = 1; n <= 9; ++n) {
     auto* option = new QRadioButton;
     option->setObjectName(QStringLiteral("Option%1").arg(n));
+    // A caption is never cut: the option keeps the width of its text.
+    option->setSizePolicy(QSizePolicy::MinimumExpanding, QSizePolicy::Fixed);
     connect(option, &QRadioButton::clicked, this,
             [this, option] { emit controlClicked(option->objectName()); });
-    options->addWidget(option, (n - 1) % 5, (n - 1) / 5);
+    options_->addWidget(option, (n - 1) % 5, (n - 1) / 5);
   }
   steps->addLayout(stepRow("3.", {frame4}));
   steps->addLayout(stepRow("4.", {button("cmdKandT")}));
 
-  // The population parameters as the data file gives them.
+  // The population parameters as the data file gives them, in two rows of
+  // three so that the steps stay narrow.
   auto* parameters = new QWidget;
   auto* grid = new QGridLayout(parameters);
   grid->setContentsMargins(0, 0, 0, 0);
   const std::pair<const char*, const char*> kParameters[] = {
       {"F =", "txtFecundity"},          {"R0", "txtNetReproductiveRate"}, {"r =", "txtIntrinsicRate"},
       {"T =", "txtMeanGenerationTime"}, {"\u03bb =", "txtLambda"},        {"Last age =", "txtLastAge"}};
-  int column = 0;
+  int place = 0;
   for (const auto& [caption, name] : kParameters) {
-    grid->addWidget(new QLabel(QString::fromUtf8(caption)), 0, column, Qt::AlignCenter);
-    QLineEdit* box = textBox(name, 74);
+    const int row = 2 * (place / 3), column = place % 3;
+    grid->addWidget(new QLabel(QString::fromUtf8(caption)), row, column, Qt::AlignCenter);
+    QLineEdit* box = textBox(name, 90);
     box->setReadOnly(true);
-    grid->addWidget(box, 1, column++);
+    grid->addWidget(box, row + 1, column);
+    ++place;
   }
   steps->addLayout(stepRow("5.", {parameters}));
   steps->addLayout(stepRow("6.", {button("cmdRun")}));
@@ -134,13 +143,17 @@ MainWindow::MainWindow(QWidget* parent) : QWidget(parent) {
   // The chart, the sayings and the clock.
   mainChart_ = new ChartView;
   mainChart_->setObjectName(QStringLiteral("MSChart1"));
+  mainChart_->setMinimumSize(240, 180);
   connect(mainChart_, &ChartView::activated, this, &MainWindow::chartActivated);
   samplingChart_ = new ChartView;
   samplingChart_->setObjectName(QStringLiteral("MSChart2"));
+  samplingChart_->setMinimumSize(240, 180);
   auto* right = new QVBoxLayout;
   right->addWidget(mainChart_, 1);
   right->addWidget(samplingChart_, 1);
-  right->addWidget(namedLabel("lblRunSummary"));
+  QLabel* summary = namedLabel("lblRunSummary");
+  summary->setWordWrap(true);
+  right->addWidget(summary);
   for (const char* name : {"lblSaying1", "lblSaying2"}) {
     QLabel* saying = namedLabel(name);
     saying->setWordWrap(true);
@@ -153,20 +166,44 @@ MainWindow::MainWindow(QWidget* parent) : QWidget(parent) {
   clockRow->addWidget(namedLabel("lblClock"));
   right->addLayout(clockRow);
 
-  // The information and print buttons along the foot.
-  auto* foot = new QHBoxLayout;
+  // The information and print buttons along the foot: one row, or two in
+  // a narrow window; Print at the right.
+  foot_ = new QGridLayout;
   for (const char* name : {"Command3", "Command6", "Command7", "Command9", "Command14", "Command15",
                            "cmdHowToPrint", "Command24"})
-    foot->addWidget(button(name));
-  foot->addStretch();
-  foot->addWidget(button("Command11"));
+    footButtons_.push_back(button(name));
+  foot_->setColumnStretch(8, 1);
+  foot_->addWidget(button("Command11"), 0, 9);
 
+  // The form scrolls when the window is smaller than it: nothing is cut,
+  // and the charts take whatever room there is beyond the steps.
+  auto* form = new QWidget;
+  form->setObjectName(QStringLiteral("form"));
   auto* top = new QHBoxLayout;
   top->addWidget(frame1, 0);
   top->addLayout(right, 1);
+  auto* formLayout = new QVBoxLayout(form);
+  formLayout->addLayout(top, 1);
+  formLayout->addLayout(foot_);
+  auto* scroll = new QScrollArea;
+  scroll->setObjectName(QStringLiteral("formScroll"));
+  scroll->setWidgetResizable(true);
+  scroll->setFrameShape(QFrame::NoFrame);
+  scroll->setWidget(form);
+
+  // The status line under the form: where the files of the last run went.
+  QLabel* status = namedLabel("lblStatus");
+  status->setWordWrap(true);
+  status->setTextInteractionFlags(Qt::TextSelectableByMouse);
+  status->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Preferred);
+  status->setContentsMargins(8, 2, 8, 4);
+
   auto* whole = new QVBoxLayout(this);
-  whole->addLayout(top, 1);
-  whole->addLayout(foot);
+  whole->setContentsMargins(0, 0, 0, 0);
+  whole->setSpacing(0);
+  whole->addWidget(scroll, 1);
+  whole->addWidget(status);
+  arrange(2);
   resize(1180, 760);
 }
 
@@ -187,6 +224,9 @@ void MainWindow::showStates(const Session& session, const MainForm& form) {
     }
     showControl(*widget, state, enabled, hint);
   }
+  // A path too long for the status line can still be read whole.
+  if (auto* status = findChild<QLabel*>(QStringLiteral("lblStatus")))
+    status->setToolTip(status->text());
 }
 
 void MainWindow::showLabel(const Session& session, const char* name) {
@@ -195,11 +235,53 @@ void MainWindow::showLabel(const Session& session, const char* name) {
     label->setText(QString::fromStdString(found->second.caption));
 }
 
+void MainWindow::clearChoices() {
+  // An option of an exclusive group cannot be unchecked while it is part
+  // of the group.
+  for (QRadioButton* option : findChildren<QRadioButton*>()) {
+    option->setAutoExclusive(false);
+    option->setChecked(false);
+    option->setAutoExclusive(true);
+  }
+}
+
 void MainWindow::takeTexts(Session& session) const {
   for (QLineEdit* box : findChildren<QLineEdit*>()) {
     const auto found = session.controls.find(box->objectName().toStdString());
     if (found != session.controls.end())
       found->second.caption = box->text().toStdString();
+  }
+}
+
+void MainWindow::resizeEvent(QResizeEvent* event) {
+  QWidget::resizeEvent(event);
+  arrange(width() < kNarrow ? 1 : 2);
+}
+
+void MainWindow::arrange(int columns) {
+  // In a narrow window the strategies stand in one column and the buttons
+  // of the foot in two rows, so that the charts keep room beside the steps;
+  // the form scrolls down instead.
+  if (columns == optionColumns_)
+    return;
+  optionColumns_ = columns;
+  const int rows = columns == 1 ? 9 : 5;
+  for (int n = 1; n <= 9; ++n) {
+    QWidget* option = findChild<QRadioButton*>(QStringLiteral("Option%1").arg(n));
+    options_->removeWidget(option);
+    options_->addWidget(option, (n - 1) % rows, (n - 1) / rows);
+  }
+  const int perRow = columns == 1 ? 4 : 8;
+  for (std::size_t i = 0; i < footButtons_.size(); ++i) {
+    foot_->removeWidget(footButtons_[i]);
+    foot_->addWidget(footButtons_[i], int(i) / perRow, int(i) % perRow);
+  }
+  // The new sizes reach the scrolled form at once.
+  for (QWidget* widget = options_->parentWidget(); widget && widget != this;
+       widget = widget->parentWidget()) {
+    if (widget->layout())
+      widget->layout()->activate();
+    widget->updateGeometry();
   }
 }
 

@@ -23,6 +23,8 @@
 #include <QPrinter>
 #include <QProcess>
 #include <QRadioButton>
+#include <QScrollArea>
+#include <QScrollBar>
 #include <QtTest>
 
 #include <memory>
@@ -48,13 +50,21 @@ struct Clicked {
   ui::Desktop desktop{answers};
   QSignalSpy ended{&desktop, &ui::Desktop::programEnded};
   QStringList errors;
+  /// The choice after an error, and whether the session had ended (files
+  /// closed) when its message showed.
+  ui::Desktop::AfterError afterError = ui::Desktop::AfterError::Quit;
+  bool endedWhenShown = false;
 
   explicit Clicked(std::initializer_list<const char*> given = {}) {
     answers.addAnswer("Open the vorlex data file=" + dataFile.toStdString());
     for (const char* answer : given)
       answers.addAnswer(answer);
     desktop.session().shortDate = "2026-11-21";
-    desktop.showError = [this](const QString& title, const QString& text) { errors << title + "|" + text; };
+    desktop.showError = [this](const QString& title, const QString& text) {
+      errors << title + "|" + text;
+      endedWhenShown = desktop.ended();
+      return afterError;
+    };
     desktop.start();
   }
 
@@ -97,6 +107,98 @@ QString title(ChartContent (*show)(Session&), Session& session) {
   return QString::fromStdString(show(session).title);
 }
 
+/// The load answered in the program's own dialogs: No to every question,
+/// the default in each box, `file` in the file dialog.
+std::vector<testing::DialogScript::Answer> loadAnswers(const QString& file) {
+  auto no = [](QWidget* dialog) {
+    if (auto* box = qobject_cast<QMessageBox*>(dialog))
+      box->button(QMessageBox::No)->click();
+    else
+      dialog->close();
+  };
+  auto accept = [](QWidget* dialog) { qobject_cast<QDialog*>(dialog)->accept(); };
+  return {no, no, accept, no, accept, [file](QWidget* dialog) { testing::chooseInFileDialog(dialog, file); },
+          no};
+}
+
+/// Presses the button with this caption; a box without it is closed.
+void press(QMessageBox* box, const QString& caption) {
+  for (QAbstractButton* button : box->buttons())
+    if (button->text().remove(QLatin1Char('&')) == caption) {
+      button->click();
+      return;
+    }
+  box->close();
+}
+
+/// A desktop session that asks through the program's own dialogs, in a
+/// folder of its own with a copy of the example, and an empty file beside
+/// it that no data file can be.
+struct WithDialogs {
+  QTemporaryDir dir;
+  QString dataFile = testing::copyOfExample(dir);
+  QTemporaryDir elsewhere;
+  QString emptyFile = elsewhere.filePath(QStringLiteral("empty.txt"));
+  ui::QtPrompter prompter;
+  ui::Desktop desktop{prompter};
+  QSignalSpy ended{&desktop, &ui::Desktop::programEnded};
+  QSignalSpy restarted{&desktop, &ui::Desktop::sessionRestarted};
+
+  WithDialogs() {
+    QFile empty(emptyFile);
+    empty.open(QIODevice::WriteOnly);
+    empty.close();
+    prompter.setParent(&desktop.mainWindow());
+    desktop.session().shortDate = "2026-11-21";
+    desktop.start();
+  }
+  template <typename Widget = QWidget> Widget* main(const char* name) {
+    auto* widget = desktop.mainWindow().findChild<Widget*>(QString::fromLatin1(name));
+    if (!widget)
+      qFatal("no control %s on the main form", name);
+    return widget;
+  }
+  /// Loads `file` with every question answered; `afterwards` answers the
+  /// dialog that follows.
+  void load(const QString& file, testing::DialogScript::Answer afterwards = {}) {
+    auto answers = loadAnswers(file);
+    if (afterwards)
+      answers.push_back(afterwards);
+    testing::DialogScript script(answers);
+    desktop.clickMain(QStringLiteral("Command2"));
+    desktop.clickMain(QStringLiteral("cmdInputLTdata"));
+    QVERIFY(script.done());
+  }
+};
+
+/// The main form as Form_Load leaves it: only the time and its OK open.
+void checkStartState(QWidget& mainWindow) {
+  auto control = [&](const char* name) {
+    auto* widget = mainWindow.findChild<QWidget*>(QString::fromLatin1(name));
+    if (!widget)
+      qFatal("no control %s on the main form", name);
+    return widget;
+  };
+  auto text = [&](const char* name) {
+    if (auto* box = qobject_cast<QLineEdit*>(control(name)))
+      return box->text();
+    return qobject_cast<QLabel*>(control(name))->text();
+  };
+  QVERIFY(mainWindow.isVisible());
+  for (const char* on : {"txtSimuT", "Command2", "Command3", "Command1", "Command14"})
+    QVERIFY2(control(on)->isEnabled(), on);
+  for (const char* off : {"cmdInputLTdata", "Frame4", "Option1", "Option2", "Option3", "Option6", "Option7",
+                          "Option8", "Option9", "cmdRun", "Command4", "Command16"})
+    QVERIFY2(!control(off)->isEnabled(), off);
+  QCOMPARE(text("txtSimuT"), QStringLiteral("60"));
+  for (QRadioButton* option : mainWindow.findChildren<QRadioButton*>())
+    QVERIFY2(!option->isChecked(), qPrintable(option->objectName()));
+  for (const char* empty :
+       {"txtDatafile", "txtFecundity", "txtLambda", "txtLastAge", "lblRunSummary", "lblStatus"})
+    QVERIFY2(text(empty).isEmpty(), empty);
+  QVERIFY(!control("MSChart1")->isVisible() && control("MSChart2")->isVisible());
+}
+
 } // namespace
 
 class DesktopSessionTest : public QObject {
@@ -135,8 +237,8 @@ private slots:
     QCOMPARE(s.main<QLineEdit>("txtIntrinsicRate")->text(), QStringLiteral(".1332"));
     QCOMPARE(s.main<QLineEdit>("txtFecundity")->text(), QStringLiteral("249.989"));
     QCOMPARE(s.main<QLineEdit>("txtLastAge")->text(), QStringLiteral("45"));
-    for (const char* on : {"Frame4", "Option1", "Option2", "Option3", "Option6", "Option9", "cmdStageSamplingData",
-                           "cmdStageProjection"})
+    for (const char* on : {"Frame4", "Option1", "Option2", "Option3", "Option6", "Option9",
+                           "cmdStageSamplingData", "cmdStageProjection"})
       QVERIFY2(s.enabled(on), on);
     // Strategies without a driver in this build, and the two never enabled.
     for (const char* off : {"Option4", "Option5", "cmdInputLTdata", "Command2", "Command3", "cmdRun"})
@@ -283,15 +385,18 @@ private slots:
       const char* option;
       const char* strategy;
     };
-    const QByteArray predation = "\"Total predation\"\r\n\"Time, Total predation, log(total predation+1)\"\r\n"
-                                 "0,0,0\r\n1,3,.6\r\n2,5,.77\r\n3,400,2.6\r\n";
+    const QByteArray predation =
+        "\"Total predation\"\r\n\"Time, Total predation, log(total predation+1)\"\r\n"
+        "0,0,0\r\n1,3,.6\r\n2,5,.77\r\n3,400,2.6\r\n";
     const QString predationTitle = QString::fromLatin1(kPredationFileDialogTitle);
-    for (const Case& c : {Case{"Option2", "predefined"}, Case{"Option3", "auto-et"}, Case{"Option6", "harvest"},
-                          Case{"Option7", "lambda"}, Case{"Option8", "predation"}}) {
+    for (const Case& c :
+         {Case{"Option2", "predefined"}, Case{"Option3", "auto-et"}, Case{"Option6", "harvest"},
+          Case{"Option7", "lambda"}, Case{"Option8", "predation"}}) {
       const QByteArray strategy(c.strategy);
       QTemporaryDir cliDir;
       const QString cliData = testing::copyOfExample(cliDir);
-      QStringList arguments{"run", cliData, "--strategy", c.strategy, "--sim-time", "30", "--date", "2026-11-21"};
+      QStringList arguments{"run",        cliData, "--strategy", c.strategy,
+                            "--sim-time", "30",    "--date",     "2026-11-21"};
       if (strategy == "predation") {
         QFile out(cliDir.filePath("eaten.txt"));
         QVERIFY(out.open(QIODevice::WriteOnly) && out.write(predation) == predation.size());
@@ -326,17 +431,19 @@ private slots:
         };
       };
       std::vector<testing::DialogScript::Answer> answers = {
-          press, press, accept, press, accept,
-          [&](QWidget* dialog) { testing::chooseInFileDialog(dialog, dataFile); }, press};
+          press, press,  accept,
+          press, accept, [&](QWidget* dialog) { testing::chooseInFileDialog(dialog, dataFile); },
+          press};
       if (strategy == "harvest")
         answers.insert(answers.end(), {box(""), box("")});
       if (strategy == "predation") {
         QFile out(dir.filePath("eaten.txt"));
         QVERIFY(out.open(QIODevice::WriteOnly) && out.write(predation) == predation.size());
         out.close();
-        answers.insert(answers.end(),
-                       {[&](QWidget* dialog) { testing::chooseInFileDialog(dialog, dir.filePath("eaten.txt")); },
-                        box("0.5")});
+        answers.insert(answers.end(), {[&](QWidget* dialog) {
+                                         testing::chooseInFileDialog(dialog, dir.filePath("eaten.txt"));
+                                       },
+                                       box("0.5")});
       }
       testing::DialogScript script(answers);
 
@@ -357,7 +464,8 @@ private slots:
         QCOMPARE(script.titles.mid(7), (QStringList{predationTitle, "Predation coefficient"}));
         QCOMPARE(boxes, (QStringList{"Enter a value between 0 and 1 to modify the predation rate|1"}));
       }
-      const QString summary = desktop.mainWindow().findChild<QLabel*>(QStringLiteral("lblRunSummary"))->text();
+      const QString summary =
+          desktop.mainWindow().findChild<QLabel*>(QStringLiteral("lblRunSummary"))->text();
       QCOMPARE(summary.startsWith(QStringLiteral("Day 1000: r = ")), strategy == "lambda");
 
       const QStringList written = filesIn(dir.path());
@@ -519,6 +627,198 @@ private slots:
     QCOMPARE(printed.last(), QStringLiteral("grafform"));
   }
 
+  void aFailingDataFileOffersAFreshStartWhereTheExampleRuns() {
+    WithDialogs d;
+    QString shown, informative;
+    QStringList buttons;
+    bool endedWhenShown = false, mainShowedBehind = false;
+    d.load(d.emptyFile, [&](QWidget* dialog) {
+      auto* box = qobject_cast<QMessageBox*>(dialog);
+      if (!box) {
+        dialog->close();
+        return;
+      }
+      shown = box->windowTitle() + "|" + box->text();
+      informative = box->informativeText();
+      for (QAbstractButton* button : box->buttons())
+        buttons << button->text().remove(QLatin1Char('&'));
+      endedWhenShown = d.desktop.ended();
+      mainShowedBehind = d.desktop.mainWindow().isVisible();
+      box->grab().save(testing::screenshotPath(QStringLiteral("restart-after-error.png")));
+      press(box, QStringLiteral("Start again"));
+    });
+    // The message as it always was; the session over before the choice.
+    QCOMPARE(shown, QStringLiteral("Vorlex|Run-time error '62':\n\nInput past end of file\n\n"
+                                   "Data file: %1, item 1, line 1, last description read: \"\"")
+                        .arg(d.emptyFile));
+    QVERIFY(informative.contains(QStringLiteral("files are closed")));
+    buttons.sort();
+    QCOMPARE(buttons, (QStringList{QStringLiteral("Quit"), QStringLiteral("Start again")}));
+    QVERIFY(endedWhenShown);
+    QVERIFY(mainShowedBehind);
+
+    // A fresh session: the form as at the start, the program still on.
+    QCOMPARE(d.restarted.size(), 1);
+    QVERIFY(d.ended.isEmpty());
+    QVERIFY(!d.desktop.ended());
+    checkStartState(d.desktop.mainWindow());
+    QVERIFY(d.desktop.session().names.DataFileName.empty());
+    QVERIFY(d.desktop.session().flags.LifeTableLoaded.empty());
+    QApplication::processEvents();
+    QVERIFY(d.desktop.mainWindow().grab().save(
+        testing::screenshotPath(QStringLiteral("mainform-after-start-again.png"))));
+
+    // The example then runs as in any first session.
+    d.desktop.session().shortDate = "2026-11-21";
+    QLineEdit* time = d.main<QLineEdit>("txtSimuT");
+    time->clear();
+    QTest::keyClicks(time, QStringLiteral("30"));
+    d.load(d.dataFile);
+    QCOMPARE(d.main<QLineEdit>("txtFecundity")->text(), QStringLiteral("249.989"));
+    d.desktop.clickMain(QStringLiteral("Option1"));
+    d.desktop.clickMain(QStringLiteral("cmdRun"));
+    QVERIFY(d.ended.isEmpty());
+    QVERIFY(d.desktop.mainWindow().mainChart()->isVisible());
+    QCOMPARE(d.desktop.mainWindow().mainChart()->chart()->title(), QStringLiteral("Stage size"));
+    QFile::remove(d.dataFile);
+    const QString golden = QStringLiteral(VORLEX_TEST_DATA_DIR "/golden/moth-no-control");
+    QStringList expected = filesIn(golden);
+    expected.removeAll(QStringLiteral("stdout.txt"));
+    QCOMPARE(filesIn(d.dir.path()), expected);
+    for (const QString& name : expected)
+      QVERIFY2(contentsOf(d.dir.filePath(name)) == contentsOf(golden + "/" + name), qPrintable(name));
+  }
+
+  void quitAfterARunTimeErrorEndsTheProgram() {
+    WithDialogs d;
+    d.load(d.emptyFile, [](QWidget* dialog) {
+      if (auto* box = qobject_cast<QMessageBox*>(dialog))
+        press(box, QStringLiteral("Quit"));
+      else
+        dialog->close();
+    });
+    QCOMPARE(d.ended.size(), 1);
+    QCOMPARE(d.ended.first().first().toInt(), 1);
+    QVERIFY(d.restarted.isEmpty());
+    QVERIFY(d.desktop.ended());
+    QVERIFY(!d.desktop.mainWindow().isVisible());
+    d.desktop.activateMainChart(); // nothing runs after the end
+    QCOMPARE(int(d.desktop.session().ChartCycleIndex), 0);
+  }
+
+  void aChartErrorThenStartAgainLeavesNothingOfTheRunBehind() {
+    Clicked s;
+    s.afterError = ui::Desktop::AfterError::StartAgain;
+    s.runNoControl("60");
+    s.click("Command4"); // the large graphs load with this run's chart
+    s.clickLarge("Command4");
+    while (s.desktop.session().ChartCycleIndex < 23)
+      s.clickChart();
+    s.clickChart();
+    QCOMPARE(s.errors.size(), 1);
+    QVERIFY(s.endedWhenShown);
+    QVERIFY(s.ended.isEmpty());
+    checkStartState(s.desktop.mainWindow());
+    QCOMPARE(int(s.desktop.session().ChartCycleIndex), 0);
+    QVERIFY(!s.desktop.session().largeGraphsLoaded);
+    QCOMPARE(s.chartTitle(), QString());
+    QCOMPARE(s.largeChartTitle(), QString());
+    QVERIFY(!s.shows(forms::kLargeGraphs));
+
+    s.answers.addAnswer("Open the vorlex data file=" + s.dataFile.toStdString());
+    s.runNoControl("30");
+    QCOMPARE(s.errors.size(), 1);
+    QCOMPARE(s.chartTitle(), QStringLiteral("Stage size"));
+    QCOMPARE(s.desktop.session().model().SimTime, 30);
+    s.click("Command4");
+    QCOMPARE(s.largeChartTitle(), QStringLiteral("Stage size curves"));
+  }
+
+  void theStatusLineSaysWhereTheFilesWent() {
+    Clicked s;
+    QLabel* status = s.main<QLabel>("lblStatus");
+    QCOMPARE(status->text(), QString());
+    s.runNoControl("5");
+    const QString expected = QStringLiteral("Report: %1; figure files beside it in %2")
+                                 .arg(s.dir.filePath(QStringLiteral("moth_0_output.txt")), s.dir.path());
+    QCOMPARE(status->text(), expected);
+    QCOMPARE(status->toolTip(), expected);
+    QVERIFY(status->isVisible());
+    QVERIFY(QFile::exists(s.dir.filePath(QStringLiteral("moth_0_output.txt"))));
+    // Under the form, whatever it scrolls to.
+    const QPoint at = status->mapTo(&s.desktop.mainWindow(), QPoint(0, 0));
+    QVERIFY(at.y() + status->height() <= s.desktop.mainWindow().height());
+    QVERIFY(!s.desktop.mainWindow().findChild<QScrollArea*>()->isAncestorOf(status));
+
+    // A data file named without its folder: the files go to the current one.
+    const QString before = QDir::currentPath();
+    Clicked t;
+    QVERIFY(QDir::setCurrent(t.dir.path()));
+    t.answers.answerFirst(MainForm::kDataFileDialogTitle, "moth.txt");
+    t.runNoControl("5");
+    const QString status2 = t.main<QLabel>("lblStatus")->text();
+    QDir::setCurrent(before);
+    QCOMPARE(status2,
+             QStringLiteral("Report: moth_0_output.txt; figure files beside it in the current folder"));
+  }
+
+  void smallWindowsKeepEveryCaptionWhole() {
+    Clicked s;
+    s.runNoControl("5");
+    QWidget& main = s.desktop.mainWindow();
+    auto optionColumns = [&s] {
+      QSet<int> lefts;
+      for (int n = 1; n <= 9; ++n)
+        lefts << s.main(qPrintable(QStringLiteral("Option%1").arg(n)))->x();
+      return lefts.size();
+    };
+    QApplication::processEvents();
+    QCOMPARE(optionColumns(), 2);
+    const QSize small(800, 520);
+    main.resize(small);
+    QApplication::processEvents();
+    QApplication::processEvents();
+    QCOMPARE(main.size(), small);
+    auto checkWhole = [](QWidget& window) {
+      for (QAbstractButton* button : window.findChildren<QAbstractButton*>()) {
+        if (!button->isVisibleTo(&window) || button->text().isEmpty())
+          continue;
+        QVERIFY2(button->width() >= button->sizeHint().width(), qPrintable(button->objectName()));
+        QVERIFY2(button->height() >= button->sizeHint().height(), qPrintable(button->objectName()));
+      }
+    };
+    QVERIFY(main.grab().save(testing::screenshotPath(QStringLiteral("mainform-small.png"))));
+    checkWhole(main);
+    // The strategies are enabled here: each option keeps its whole caption.
+    for (int n = 1; n <= 9; ++n) {
+      auto* option = s.main<QRadioButton>(qPrintable(QStringLiteral("Option%1").arg(n)));
+      QVERIFY(option->isVisible());
+      QVERIFY(option->width() >= option->fontMetrics().horizontalAdvance(option->text()));
+      // Inside its frame.
+      QVERIFY(option->parentWidget()->rect().contains(option->geometry()));
+    }
+    // Narrow, the strategies stand in one column and the form scrolls down
+    // only: the chart keeps its room beside the steps.
+    QCOMPARE(optionColumns(), 1);
+    auto* scroll = main.findChild<QScrollArea*>();
+    QCOMPARE(scroll->horizontalScrollBar()->maximum(), 0);
+    QVERIFY(scroll->verticalScrollBar()->maximum() > 0);
+    QWidget* chart = s.main("MSChart1");
+    QVERIFY(chart->mapTo(scroll->viewport(), QPoint(chart->width(), 0)).x() <= scroll->viewport()->width());
+    // What does not fit scrolls: the form keeps its least size.
+    QWidget* form = main.findChild<QWidget*>(QStringLiteral("form"));
+    QVERIFY(form->width() >= form->minimumSizeHint().width());
+    QVERIFY(form->height() >= form->minimumSizeHint().height());
+
+    s.click("Command4");
+    QWidget& large = s.desktop.largeGraphWindow();
+    large.resize(small);
+    QApplication::processEvents();
+    QCOMPARE(large.size(), small);
+    checkWhole(large);
+    QVERIFY(large.grab().save(testing::screenshotPath(QStringLiteral("large-graphs-small.png"))));
+  }
+
   void aRunTimeErrorIsShownWithItsPlaceAndEndsTheProgram() {
     Clicked s;
     // A data file cut in the middle of its life table.
@@ -537,6 +837,7 @@ private slots:
                  QStringLiteral("Vorlex|Run-time error '62':\n\nInput past end of file\n\n")),
              qPrintable(s.errors.first()));
     QVERIFY(s.errors.first().contains(QStringLiteral("moth.txt")));
+    QVERIFY(s.endedWhenShown);
     QCOMPARE(s.ended.size(), 1);
     QCOMPARE(s.ended.first().first().toInt(), 1);
     QVERIFY(!s.shows(forms::kMainform));
