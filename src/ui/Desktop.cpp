@@ -190,6 +190,7 @@ void Desktop::handle(const std::function<void()>& handler) {
                        .arg(QString::fromStdString(error.text()));
     if (!error.where().empty())
       text += QStringLiteral("\n\n") + QString::fromStdString(error.where());
+    text += QStringLiteral("\n\nLikely cause: ") + QString::fromStdString(error.likelyCause());
     afterError(text);
     return;
   } catch (const ProgramEnd&) {

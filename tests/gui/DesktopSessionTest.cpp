@@ -529,7 +529,10 @@ private slots:
     s.clickChart();
     QCOMPARE(s.errors,
              QStringList{QStringLiteral("Vorlex|Run-time error '5':\n\nInvalid procedure call or argument\n\n"
-                                        "Chart 24 of the main form's chart cycle")});
+                                        "Chart 24 of the main form's chart cycle\n\nLikely cause: "
+                                        "a calculation was asked for something it can't do, such as the "
+                                        "logarithm of a size that is not above -1 (a population or rate that "
+                                        "became negative), or a strategy this version does not run.")});
     QCOMPARE(s.ended.size(), 1);
     QCOMPARE(s.ended.first().first().toInt(), 1);
   }
@@ -647,9 +650,13 @@ private slots:
       box->grab().save(testing::screenshotPath(QStringLiteral("restart-after-error.png")));
       press(box, QStringLiteral("Start again"));
     });
-    // The message as it always was; the session over before the choice.
+    // The message with its place and likely cause; the session over
+    // before the choice.
     QCOMPARE(shown, QStringLiteral("Vorlex|Run-time error '62':\n\nInput past end of file\n\n"
-                                   "Data file: %1, item 1, line 1, last description read: \"\"")
+                                   "Data file: %1, item 1, line 1, last description read: \"\"\n\n"
+                                   "Likely cause: the data file ended before all of its items were read: "
+                                   "a line or block is missing, or a count in the file (stages, last age, "
+                                   "releases, controls) does not match the lines that follow.")
                         .arg(d.emptyFile));
     QVERIFY(informative.contains(QStringLiteral("files are closed")));
     buttons.sort();
