@@ -2,11 +2,72 @@
 
 #include "textio/RuntimeError.h"
 
+#include <algorithm>
 #include <array>
 #include <cstddef>
+#include <cstdlib>
+#include <memory>
+#include <new>
+#include <type_traits>
 #include <vector>
 
 namespace vorlex {
+
+namespace detail {
+
+// The cells of a table. Numbers take memory that is zero until first
+// written: the system hands out zeroed pages on demand, so a table sized
+// for the largest case costs nothing for the part a smaller one never
+// touches. Texts and values are constructed as usual.
+template <typename T, bool = std::is_arithmetic_v<T>> class Storage {
+public:
+  explicit Storage(std::size_t size) : cells_(size, T{}) {}
+  T* data() { return cells_.data(); }
+  const T* data() const { return cells_.data(); }
+  std::size_t size() const { return cells_.size(); }
+
+private:
+  std::vector<T> cells_;
+};
+
+template <typename T> class Storage<T, true> {
+public:
+  explicit Storage(std::size_t size) : size_(size), cells_(allocate(size)) {}
+  Storage(const Storage& other) : size_(other.size_), cells_(allocate(other.size_)) {
+    std::copy(other.data(), other.data() + size_, data());
+  }
+  Storage& operator=(const Storage& other) {
+    if (this != &other) {
+      Storage copy(other);
+      std::swap(size_, copy.size_);
+      std::swap(cells_, copy.cells_);
+    }
+    return *this;
+  }
+  Storage(Storage&&) noexcept = default;
+  Storage& operator=(Storage&&) noexcept = default;
+
+  T* data() { return cells_.get(); }
+  const T* data() const { return cells_.get(); }
+  std::size_t size() const { return size_; }
+
+private:
+  struct Free {
+    void operator()(T* cells) const { std::free(cells); }
+  };
+  static T* allocate(std::size_t size) {
+    // All-zero bytes are the number 0 for every arithmetic type used here.
+    void* cells = std::calloc(size == 0 ? 1 : size, sizeof(T));
+    if (!cells)
+      throw std::bad_alloc();
+    return static_cast<T*>(cells);
+  }
+
+  std::size_t size_;
+  std::unique_ptr<T[], Free> cells_;
+};
+
+} // namespace detail
 
 /// A table with fixed bounds 0..upper in each of its Rank dimensions, all
 /// zeros (or empty texts) at the start. An index outside the bounds stops
@@ -15,29 +76,31 @@ template <typename T, std::size_t Rank> class Table {
 public:
   template <typename... Upper>
     requires(sizeof...(Upper) == Rank)
-  explicit Table(Upper... upper) : upper_{static_cast<int>(upper)...} {
-    std::size_t size = 1;
-    for (int u : upper_)
-      size *= static_cast<std::size_t>(u) + 1;
-    cells_.assign(size, T{});
-  }
+  explicit Table(Upper... upper) : upper_{static_cast<int>(upper)...}, cells_(sizeOf(upper_)) {}
 
   template <typename... Index>
     requires(sizeof...(Index) == Rank)
   T& operator()(Index... index) {
-    return cells_[offset(static_cast<long long>(index)...)];
+    return cells_.data()[offset(static_cast<long long>(index)...)];
   }
   template <typename... Index>
     requires(sizeof...(Index) == Rank)
   const T& operator()(Index... index) const {
-    return cells_[offset(static_cast<long long>(index)...)];
+    return cells_.data()[offset(static_cast<long long>(index)...)];
   }
 
   /// The upper bound of a dimension (from 0).
   int upper(std::size_t dimension = 0) const { return upper_[dimension]; }
-  void fill(const T& value) { cells_.assign(cells_.size(), value); }
+  void fill(const T& value) { std::fill(cells_.data(), cells_.data() + cells_.size(), value); }
 
 private:
+  static std::size_t sizeOf(const std::array<int, Rank>& upper) {
+    std::size_t size = 1;
+    for (int u : upper)
+      size *= static_cast<std::size_t>(u) + 1;
+    return size;
+  }
+
   template <typename... Index> std::size_t offset(Index... index) const {
     const std::array<long long, Rank> at{index...};
     std::size_t result = 0;
@@ -50,7 +113,7 @@ private:
   }
 
   std::array<int, Rank> upper_;
-  std::vector<T> cells_;
+  detail::Storage<T> cells_;
 };
 
 template <typename T> using Table1 = Table<T, 1>;
