@@ -5,6 +5,7 @@
 #include "textio/RuntimeError.h"
 
 #include <cerrno>
+#include <exception>
 #include <fstream>
 
 namespace vorlex {
@@ -27,7 +28,7 @@ void FileTable::openWriting(int number, const std::string& path, bool append) {
           "File: " + path);
   Entry entry;
   entry.path = path;
-  entry.output = std::make_unique<OutputFile>(std::move(stream));
+  entry.output = std::make_unique<OutputFile>(std::move(stream), path);
   entry.openedAs = ++openings_;
   open_.emplace(number, std::move(entry));
   if (std::find(written_.begin(), written_.end(), path) == written_.end())
@@ -73,14 +74,26 @@ void FileTable::close(int number) {
   auto found = open_.find(number);
   if (found == open_.end())
     return; // closing a file that isn't open does nothing
-  if (found->second.output)
-    found->second.output->flush();
+  // The entry goes whether or not its last write is taken.
+  const std::unique_ptr<OutputFile> output = std::move(found->second.output);
   open_.erase(found);
+  if (output)
+    output->close();
 }
 
 void FileTable::closeAll() {
-  while (!open_.empty())
-    close(open_.begin()->first);
+  // Every file is closed; the first failure is told after the last.
+  std::exception_ptr failure;
+  while (!open_.empty()) {
+    try {
+      close(open_.begin()->first);
+    } catch (const RuntimeError&) {
+      if (!failure)
+        failure = std::current_exception();
+    }
+  }
+  if (failure)
+    std::rethrow_exception(failure);
 }
 
 bool FileTable::isOpen(int number) const { return open_.contains(number); }

@@ -1,14 +1,30 @@
 #include "textio/OutputFile.h"
 
+#include "textio/RuntimeError.h"
+
+#include <cerrno>
+#include <fstream>
+
 namespace vorlex {
 
-OutputFile::OutputFile(std::unique_ptr<std::ostream> stream) : stream_(std::move(stream)) {}
+OutputFile::OutputFile(std::unique_ptr<std::ostream> stream, std::string name)
+    : stream_(std::move(stream)), name_(std::move(name)) {}
+
+// A stream that failed tells why only through errno.
+void OutputFile::checkWritten() {
+  if (stream_->good())
+    return;
+  const bool full = errno == ENOSPC;
+  stream_->clear();
+  raise(full ? ErrorCode::DiskFull : ErrorCode::DeviceIOError, name_.empty() ? "" : "File: " + name_);
+}
 
 OutputFile OutputFile::inMemory() { return OutputFile(std::make_unique<std::ostringstream>()); }
 
 void OutputFile::endLine() {
   *stream_ << "\r\n";
   column_ = 1;
+  checkWritten();
 }
 
 std::string OutputFile::text() const {
@@ -16,7 +32,20 @@ std::string OutputFile::text() const {
   return memory ? memory->str() : std::string{};
 }
 
-void OutputFile::flush() { stream_->flush(); }
+void OutputFile::flush() {
+  errno = 0;
+  stream_->flush();
+  checkWritten();
+}
+
+void OutputFile::close() {
+  flush();
+  if (auto* file = dynamic_cast<std::ofstream*>(stream_.get())) {
+    errno = 0;
+    file->close();
+    checkWritten();
+  }
+}
 
 void OutputFile::putText(std::string_view text) {
   stream_->write(text.data(), static_cast<std::streamsize>(text.size()));

@@ -35,7 +35,9 @@ class OutputFile {
 public:
   static constexpr int kZoneWidth = 14;
 
-  explicit OutputFile(std::unique_ptr<std::ostream> stream);
+  /// A file written to `stream`; `name` says which file a write failure
+  /// happened in.
+  explicit OutputFile(std::unique_ptr<std::ostream> stream, std::string name = {});
   /// A file that collects its text in memory, see text().
   static OutputFile inMemory();
 
@@ -61,7 +63,11 @@ public:
   int column() const { return column_; }
   /// The text written so far, for a file made by inMemory().
   std::string text() const;
+  /// Hands what is buffered to the system; Disk full (or Device I/O error)
+  /// when the system does not take it.
   void flush();
+  /// Flushes and closes the file, with the same checks.
+  void close();
 
 private:
   void putText(std::string_view text);
@@ -88,8 +94,10 @@ private:
     writeNumber(static_cast<double>(number), first);
   }
   void writeNumber(double number, bool first);
+  void checkWritten();
 
   std::unique_ptr<std::ostream> stream_;
+  std::string name_;
   int column_ = 1;
 };
 

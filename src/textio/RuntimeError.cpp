@@ -12,6 +12,8 @@ std::string errorText(ErrorCode code) {
   case ErrorCode::BadFileNameOrNumber: return "Bad file name or number";
   case ErrorCode::FileNotFound: return "File not found";
   case ErrorCode::FileAlreadyOpen: return "File already open";
+  case ErrorCode::DeviceIOError: return "Device I/O error";
+  case ErrorCode::DiskFull: return "Disk full";
   case ErrorCode::InputPastEndOfFile: return "Input past end of file";
   case ErrorCode::PermissionDenied: return "Permission denied";
   case ErrorCode::PathFileAccessError: return "Path/File access error";
@@ -42,6 +44,10 @@ std::string RuntimeError::likelyCause() const {
     return "there is no file at that path.";
   case ErrorCode::FileAlreadyOpen:
     return "a file that is still open was to be opened a second time.";
+  case ErrorCode::DeviceIOError:
+    return "the device refused to take what was written to the file.";
+  case ErrorCode::DiskFull:
+    return "there is no room left on the disk for the file; the files written before it are complete.";
   case ErrorCode::InputPastEndOfFile:
     return "the data file ended before all of its items were read: a line or block is missing, or a count "
            "in the file (stages, last age, releases, controls) does not match the lines that follow.";

@@ -16,6 +16,8 @@ enum class ErrorCode : int {
   BadFileNameOrNumber = 52,
   FileNotFound = 53,
   FileAlreadyOpen = 55,
+  DeviceIOError = 57,
+  DiskFull = 61,
   InputPastEndOfFile = 62,
   PermissionDenied = 70,
   PathFileAccessError = 75,

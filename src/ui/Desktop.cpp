@@ -236,7 +236,11 @@ void Desktop::endSession() {
     return;
   ended_ = true;
   timer1_.stop();
-  session_->files.closeAll();
+  try {
+    session_->files.closeAll();
+  } catch (const RuntimeError&) {
+    // The session is over already; its files stay as they stand.
+  }
 }
 
 void Desktop::endProgram(int exitCode) {

@@ -88,3 +88,26 @@ TEST(RunCommand, HelpSaysWhichStrategiesRun) {
 
 } // namespace
 } // namespace vorlex::testing
+
+namespace vorlex::testing {
+namespace {
+
+// A file that can't be written stops the run with the system's word for
+// it and the file's name; the summary of files written never comes.
+TEST(RunCommand, AFullDiskStopsTheRunNamingTheFile) {
+  RunFolder folder("run-disk-full");
+  const std::string data = folder.copy(examplePath("moth.txt"), "moth.txt");
+  std::filesystem::create_symlink("/dev/full", folder.path("moth-2A-Fig-Total size.txt"));
+  const CliResult result = runCli("run " + quoted(data) + " --sim-time 10", folder.dir().string());
+  EXPECT_EQ(result.status, 1);
+  EXPECT_NE(result.err.find("Run-time error '61': Disk full\n"), std::string::npos) << result.err;
+  EXPECT_NE(result.err.find("\nFile: " + folder.path("moth-2A-Fig-Total size.txt") + "\n"),
+            std::string::npos)
+      << result.err;
+  EXPECT_EQ(result.out.find("Files written:"), std::string::npos);
+  // The files before it are whole.
+  EXPECT_NE(fileText(folder.path("moth-1A-Fig-Stage size.txt")).find("\r\n10,"), std::string::npos);
+}
+
+} // namespace
+} // namespace vorlex::testing
