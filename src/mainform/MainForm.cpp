@@ -161,12 +161,24 @@ void MainForm::Form_Load() {
 void MainForm::Command2_Click() {
   session_.flags.Physogastry = yesNo(session_.prompter().askYesNo("Physogastric reproduction?", "Attention"));
   Model& m = session_.model();
-  m.SimTime = toInt16(numberEntry(session_.controls["txtSimuT"].caption));
-  m.SimTimeNext = checkedInt16(m.SimTime + 1);
+  try {
+    m.SimTime = toInt16(numberEntry(session_.controls["txtSimuT"].caption));
+    m.SimTimeNext = checkedInt16(m.SimTime + 1);
+  } catch (const RuntimeError& error) {
+    throw error.at("Step 1, the simulation time: \"" + session_.controls["txtSimuT"].caption + "\"");
+  }
   enable(session_, {"cmdInputLTdata"});
 }
 
 void MainForm::cmdInputLTdata_Click() {
+  try {
+    loadLifeTable();
+  } catch (const RuntimeError& error) {
+    throw error.at("Step 2, the load of the life table and its questions");
+  }
+}
+
+void MainForm::loadLifeTable() {
   RunFlags& flags = session_.flags;
   FileNames& names = session_.names;
   Prompter& ask = session_.prompter();

@@ -80,6 +80,7 @@ public:
 
 private:
   void chooseStrategy(const std::string& optManagement);
+  void loadLifeTable();
   /// Where a failure of a run happened: the strategy as its option names
   /// it, the day, and the file being written, if any.
   std::string runPlace(const std::string& strategy);

@@ -111,3 +111,36 @@ TEST(RunCommand, AFullDiskStopsTheRunNamingTheFile) {
 
 } // namespace
 } // namespace vorlex::testing
+
+namespace vorlex::testing {
+namespace {
+
+// Each failure says what, where and why in plain words.
+TEST(RunCommand, FailuresSayWhereTheyHappenedAndTheirLikelyCause) {
+  struct Case {
+    const char* arguments;
+    const char* what;
+    const char* where;
+    const char* cause;
+  };
+  const Case cases[] = {
+      {"--sim-time 99999", "Run-time error '6': Overflow\n", "Step 1, the simulation time: \"99999\"\n",
+       "Likely cause: a number grew beyond"},
+      {"--sim-time 2000", "Run-time error '9': Subscript out of range\n", ", item 7, line 6, last description read",
+       "the simulation time can be at most 1004."},
+      {"--strategy harvest --answer 'Harvest end date =?=201'", "Run-time error '9': Subscript out of range\n",
+       "Run of \"Population growth with stage harvesting\", day 0, file being written: ",
+       "Likely cause: a value in the data file or an answer lies outside"},
+  };
+  for (const Case& c : cases) {
+    RunFolder folder("run-failure");
+    const std::string data = folder.copy(examplePath("moth.txt"), "moth.txt");
+    const CliResult result = runCli("run " + quoted(data) + " " + c.arguments, folder.dir().string());
+    EXPECT_EQ(result.status, 1) << c.arguments;
+    for (const char* part : {c.what, c.where, c.cause})
+      EXPECT_NE(result.err.find(part), std::string::npos) << c.arguments << "\n" << result.err;
+  }
+}
+
+} // namespace
+} // namespace vorlex::testing
