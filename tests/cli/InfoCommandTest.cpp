@@ -16,7 +16,8 @@ struct CommandResult {
 };
 
 CommandResult runCli(const std::string& arguments) {
-  const std::filesystem::path dir = std::filesystem::path(::testing::TempDir()) / "vorlex-cli";
+  const std::filesystem::path dir = std::filesystem::path(::testing::TempDir()) / "vorlex-cli" /
+                                    ::testing::UnitTest::GetInstance()->current_test_info()->name();
   std::filesystem::create_directories(dir);
   const std::string out = (dir / "out.txt").string(), err = (dir / "err.txt").string();
   const std::string command = std::string(VORLEX_CLI) + " " + arguments + " >" + out + " 2>" + err;
