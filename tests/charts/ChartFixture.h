@@ -25,10 +25,7 @@ protected:
   Model& m = session.model();
 
   void SetUp() override {
-    session.flags.WithCxj = "No";
-    session.files.attachInput(kDataFile, ItemReader(fileText(dataPath("tiny3.txt"))), "tiny3.txt");
-    VorlexA(session);
-    session.files.attachOutput(kReportFile, OutputFile::inMemory());
+    loadTestData(session, "tiny3.txt");
     m.SimTime = 1;
     VorlexBSetStageSurvivalRto1(session);
     VorlexDGosub160PopulationGrowth(session);

@@ -19,10 +19,7 @@ protected:
   Model& m = session.model();
 
   void SetUp() override {
-    session.flags.WithCxj = "No";
-    session.files.attachInput(kDataFile, ItemReader(fileText(dataPath("tiny3.txt"))), "tiny3.txt");
-    VorlexA(session);
-    session.files.attachOutput(kReportFile, OutputFile::inMemory());
+    loadTestData(session, "tiny3.txt");
     session.flags.ControlAutoMark = "AUTOCONTROL";
   }
   // The start and the projection as the automatic strategy runs them.

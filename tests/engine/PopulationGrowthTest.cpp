@@ -22,10 +22,7 @@ protected:
   Model& m = session.model();
 
   void SetUp() override {
-    session.flags.WithCxj = "No";
-    session.files.attachInput(kDataFile, ItemReader(fileText(dataPath("tiny3.txt"))), "tiny3.txt");
-    VorlexA(session);
-    session.files.attachOutput(kReportFile, OutputFile::inMemory());
+    loadTestData(session, "tiny3.txt");
   }
   // Day 0 from the file's initial population; controls switched off.
   void start(int simTime = 1) {

@@ -14,9 +14,7 @@ protected:
   Model& m = session.model();
 
   void SetUp() override {
-    session.flags.WithCxj = "No";
-    session.files.attachInput(kDataFile, ItemReader(fileText(dataPath("tiny3.txt"))), "tiny3.txt");
-    VorlexA(session);
+    loadTestData(session, "tiny3.txt", false);
   }
 };
 

@@ -60,6 +60,16 @@ inline std::string fileText(const std::string& path) {
   return all.str();
 }
 
+/// Reads a data file of tests/data (plain form) into a session as the load
+/// does; with `reportInMemory` the report is open, in memory.
+inline void loadTestData(Session& session, const std::string& name, bool reportInMemory = true) {
+  session.flags.WithCxj = "No";
+  session.files.attachInput(kDataFile, ItemReader(fileText(dataPath(name))), name);
+  VorlexA(session);
+  if (reportInMemory)
+    session.files.attachOutput(kReportFile, OutputFile::inMemory());
+}
+
 /// Replaces the first occurrence of a text; the test fails loudly through an
 /// empty result if it isn't there.
 inline std::string replaced(std::string text, const std::string& from, const std::string& to) {
