@@ -152,11 +152,25 @@ void readFirstPart(Session& session, bool withCxj) {
   readDensityCoefficients(session);
 }
 
+namespace {
+
+// A description as a message shows it: at most 80 characters, the cut
+// marked, so that a huge broken line makes no huge message.
+std::string shortened(const std::string& description) {
+  constexpr std::size_t kShown = 80;
+  if (description.size() <= kShown)
+    return description;
+  return description.substr(0, kShown) + "[... " + std::to_string(description.size() - kShown) +
+         " more characters]";
+}
+
+} // namespace
+
 std::string placeInDataFile(Session& session) {
   const ItemReader& in = session.files.input(kDataFile);
   return "Data file: " + session.files.path(kDataFile) + ", item " + std::to_string(in.itemNumber()) +
          ", line " + std::to_string(in.line()) + ", last description read: \"" +
-         session.model().Descriptionx + "\"";
+         shortened(session.model().Descriptionx) + "\"";
 }
 
 void readWholeFile(Session& session, bool withCxj) {

@@ -170,6 +170,20 @@ void MainForm::Command2_Click() {
   enable(session_, {"cmdInputLTdata"});
 }
 
+namespace {
+
+// Whether a path ends in a dot and three characters of a name, as "a.txt".
+bool endsInExtension(const std::string& path) {
+  if (path.size() < 5 || path[path.size() - 4] != '.')
+    return false;
+  for (std::size_t i = path.size() - 3; i < path.size(); ++i)
+    if (path[i] == '/' || path[i] == '.' || path[i] == ' ')
+      return false;
+  return true;
+}
+
+} // namespace
+
 void MainForm::cmdInputLTdata_Click() {
   try {
     loadLifeTable();
@@ -210,6 +224,11 @@ void MainForm::loadLifeTable() {
   ControlState& shown = session_.controls["txtDatafile"];
   shown.caption = path;
   names.BaseName = withoutLastFour(path);
+  if (!endsInExtension(path))
+    ask.inform("The outputs will be named after \"" + names.BaseName +
+                   "\": the data file's name without its last four characters, which are not a dot and a "
+                   "three-letter extension.",
+               "Output names");
 
   if (ask.askYesNo("Do you need the record of program flow?", "Do you need flow record?")) {
     flags.FlowFlag = "Yes";

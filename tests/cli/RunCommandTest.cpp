@@ -144,3 +144,38 @@ TEST(RunCommand, FailuresSayWhereTheyHappenedAndTheirLikelyCause) {
 
 } // namespace
 } // namespace vorlex::testing
+
+namespace vorlex::testing {
+namespace {
+
+// A huge broken description makes no huge message: 80 characters and a
+// mark where it was cut.
+TEST(RunCommand, ALongDescriptionIsCutInTheMessage) {
+  RunFolder folder("run-long-description");
+  const std::string moth = fileText(examplePath("moth.txt"));
+  const std::string cut = moth.substr(0, moth.find("\"Mean fecundity\""));
+  const std::string data = folder.path("long.txt");
+  std::ofstream(data, std::ios::binary) << replaced(cut, "\"Previous cumulative weighed insect days\"",
+                                                    "\"" + std::string(5000, 'w') + "\"");
+  const CliResult result = runCli("run " + quoted(data), folder.dir().string());
+  EXPECT_EQ(result.status, 1);
+  EXPECT_NE(result.err.find("\"" + std::string(80, 'w') + "[... 4920 more characters]\"\n"), std::string::npos)
+      << result.err;
+  EXPECT_LT(result.err.size(), 1000u);
+}
+
+// A data file whose name doesn't end in a dot and three letters still names
+// the outputs by cutting four characters; the user is told first.
+TEST(RunCommand, AnOddDataFileNameIsToldBeforeAnythingIsWritten) {
+  RunFolder folder("run-odd-name");
+  const std::string data = folder.copy(examplePath("moth.txt"), "moth1");
+  const CliResult result = runCli("run " + quoted(data) + " --sim-time 5", folder.dir().string());
+  EXPECT_EQ(result.status, 0) << result.err;
+  EXPECT_NE(result.out.find("[Output names] The outputs will be named after \"" + folder.path("m") + "\""),
+            std::string::npos)
+      << result.out;
+  EXPECT_TRUE(std::filesystem::exists(folder.path("m_0_output.txt")));
+}
+
+} // namespace
+} // namespace vorlex::testing
