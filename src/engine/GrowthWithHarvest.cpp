@@ -6,13 +6,6 @@
 
 namespace vorlex {
 
-namespace {
-
-// A blank, then 70 copies of c: the rules of the harvest table.
-std::string rule70(char c) { return " " + std::string(70, c); }
-
-} // namespace
-
 void harvestOfTheDay(Session& session) {
   Model& m = session.model();
   const int t = m.Day;
@@ -37,17 +30,17 @@ void harvestOfTheDay(Session& session) {
     OutputFile& out = session.files.output(kHarvestFile);
     if (t == m.HarvestFrom) {
       out.print("");
-      out.print(rule70('='));
+      out.print(rule('=', 70));
       out.print(" Harvest date    Stage     Total Rearing cost      Available number");
-      out.print(rule70('-'));
+      out.print(rule('-', 70));
     }
     for (int j = 1; j <= m.NrStage; ++j)
       if (m.HarvestStage(j) == 1)
         out.print(Tab{4}, m.HarvestDay(i), Tab{18}, m.StageName(j), Tab{27}, m.HarvestCost(t, j), Tab{51},
                   m.HarvestNumber(t, j));
-    out.print(rule70('-'));
+    out.print(rule('-', 70));
     out.print(" Sum", Tab{27}, m.TotalHarvest(t), Tab{51}, m.TotalCost(t));
-    out.print(rule70('-'));
+    out.print(rule('-', 70));
   }
 }
 

@@ -16,13 +16,7 @@ void printBlankLines(OutputFile& out, int count) {
     out.print(" ");
 }
 
-std::string rule(char c, int count) {
-  if (count < 0)
-    raise(ErrorCode::InvalidProcedureCall, "a rule of negative length");
-  std::string line(static_cast<std::size_t>(count) + 1, c);
-  line[0] = ' ';
-  return line;
-}
+
 
 double round4(double v) { return roundHalfEven(v * 10000) / 10000; }
 

@@ -1,5 +1,7 @@
 #pragma once
 
+#include "textio/OutputFile.h"
+
 #include <string>
 
 namespace vorlex {
@@ -16,9 +18,6 @@ void printFormFeed(OutputFile& out);
 /// Lines that hold one blank each.
 void printBlankLines(OutputFile& out, int count);
 
-/// One blank followed by count copies of c: the rules above and below the
-/// tables of the report.
-std::string rule(char c, int count);
 /// v rounded to four decimal places, ties to the even last digit.
 double round4(double v);
 /// The first character of a name, empty for an empty name; plot marks and

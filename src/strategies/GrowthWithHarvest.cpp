@@ -18,8 +18,6 @@ i16 askHarvestDay(Session& session, const std::string& title, const std::string&
   return toInt16(askNumber(session.prompter(), "", title, defaultText));
 }
 
-std::string rule66(char c) { return " " + std::string(66, c); }
-
 // The head of the harvest file: the days asked and each stage's rearing
 // cost and whether it is harvested.
 void writeHarvestStages(Session& session) {
@@ -28,12 +26,12 @@ void writeHarvestStages(Session& session) {
   out.print(" Harvest stage information");
   out.print(" Harvest begin date: ", m.HarvestFrom);
   out.print(" Harvest end date: ", m.HarvestTo);
-  out.print(rule66('='));
+  out.print(rule('=', 66));
   out.print("    Stage              Rearing cost           Harvest (1=Yes, 2=No)");
-  out.print(rule66('-'));
+  out.print(rule('-', 66));
   for (int j = 1; j <= m.NrStage; ++j)
     out.print(Tab{4}, m.StageName(j), Tab{23}, m.RearingCost(j), Tab{55}, m.HarvestStage(j));
-  out.print(rule66('-'));
+  out.print(rule('-', 66));
 }
 
 } // namespace

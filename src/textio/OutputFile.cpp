@@ -19,6 +19,14 @@ void OutputFile::checkWritten() {
   raise(full ? ErrorCode::DiskFull : ErrorCode::DeviceIOError, name_.empty() ? "" : "File: " + name_);
 }
 
+std::string rule(char c, int count) {
+  if (count < 0)
+    raise(ErrorCode::InvalidProcedureCall, "a rule of negative length");
+  std::string line(static_cast<std::size_t>(count) + 1, c);
+  line[0] = ' ';
+  return line;
+}
+
 OutputFile OutputFile::inMemory() { return OutputFile(std::make_unique<std::ostringstream>()); }
 
 void OutputFile::endLine() {

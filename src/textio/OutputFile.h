@@ -24,6 +24,10 @@ struct Spc {
 /// Moves a print line to the next print zone, the comma of a print list.
 struct Zone {};
 
+/// One blank followed by count copies of c: the rules above and below the
+/// tables of the report and the harvest file.
+std::string rule(char c, int count);
+
 /// A text file being written, with the print and write lines that every
 /// report and data file of the program is made of. Lines end in CR LF.
 ///
