@@ -319,14 +319,18 @@ void MainForm::Option9_Click() {
 }
 
 void MainForm::chooseOption(int number) {
-  using Handler = void (MainForm::*)();
-  static constexpr Handler kHandlers[] = {
-      &MainForm::Option1_Click, &MainForm::Option2_Click, &MainForm::Option3_Click,
-      &MainForm::Option4_Click, &MainForm::Option5_Click, &MainForm::Option6_Click,
-      &MainForm::Option7_Click, &MainForm::Option8_Click, &MainForm::Option9_Click};
-  if (number < 1 || number > 9)
-    raise(ErrorCode::SubscriptOutOfRange, "Option" + std::to_string(number));
-  (this->*kHandlers[number - 1])();
+  switch (number) {
+  case 1: return Option1_Click();
+  case 2: return Option2_Click();
+  case 3: return Option3_Click();
+  case 4: return Option4_Click();
+  case 5: return Option5_Click();
+  case 6: return Option6_Click();
+  case 7: return Option7_Click();
+  case 8: return Option8_Click();
+  case 9: return Option9_Click();
+  default: raise(ErrorCode::SubscriptOutOfRange, "Option" + std::to_string(number));
+  }
 }
 
 const char* MainForm::optManagementOf(int option) {

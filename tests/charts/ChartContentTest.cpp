@@ -23,8 +23,8 @@ TEST(ChartContent, SeriesTakeTwoColumnsEach) {
 TEST(ChartContent, OutsideTheChartIsOutOfRange) {
   ChartContent chart;
   chart.resize(2, 3);
-  for (auto [row, column] : {std::pair{0, 1}, {4, 1}, {1, 0}, {1, 5}})
-    EXPECT_EQ(errorOf([&] { chart.at(row, column); }).code(), ErrorCode::SubscriptOutOfRange);
+  for (const auto& cell : {std::pair{0, 1}, {4, 1}, {1, 0}, {1, 5}})
+    EXPECT_EQ(errorOf([&] { chart.at(cell.first, cell.second); }).code(), ErrorCode::SubscriptOutOfRange);
   EXPECT_EQ(errorOf([&] { chart.label(3); }).code(), ErrorCode::SubscriptOutOfRange);
   EXPECT_EQ(errorOf([&] { chart.resize(1, -1); }).code(), ErrorCode::InvalidProcedureCall);
 }
