@@ -152,6 +152,8 @@ void readFirstPart(Session& session, bool withCxj) {
   readDensityCoefficients(session);
 }
 
+} // namespace
+
 namespace {
 
 // A description as a message shows it: at most 80 characters, the cut
@@ -172,6 +174,8 @@ std::string placeInDataFile(Session& session) {
          ", line " + std::to_string(in.line()) + ", last description read: \"" +
          shortened(session.model().Descriptionx) + "\"";
 }
+
+namespace {
 
 void readWholeFile(Session& session, bool withCxj) {
   try {

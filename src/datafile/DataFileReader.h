@@ -25,4 +25,8 @@ void VorlexAGosub100withCxj(Session& session);
 /// WithCxj flag names, as the load does.
 void readDataFile(Session& session, const std::string& path);
 
+/// Where reading the data file (file 3) stands, for the message of an error
+/// there: the file, the item number, the line and the description read last.
+std::string placeInDataFile(Session& session);
+
 } // namespace vorlex

@@ -20,6 +20,8 @@ inline constexpr const char* kQuiz = "Quiz";
 inline constexpr const char* kHowToPrint = "HowToPrint";
 /// The closing screen, whose button ends the program.
 inline constexpr const char* kClosing = "Endfrm";
+/// The check report of a data file.
+inline constexpr const char* kCheckData = "CheckDat";
 } // namespace forms
 
 void showForm(Session& session, const std::string& form);

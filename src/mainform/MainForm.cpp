@@ -1,6 +1,7 @@
 #include "mainform/MainForm.h"
 
 #include "datafile/DataFileReader.h"
+#include "mainform/CheckDataForm.h"
 #include "mainform/Forms.h"
 #include "mainform/LambdaCheck.h"
 #include "mainform/ParameterText.h"
@@ -120,6 +121,7 @@ MainForm::MainForm(Session& session) : session_(session), largeGraphs_(session) 
   for (const char* form :
        {forms::kReferences, forms::kQuiz, forms::kHowToPrint, forms::kClosing, forms::kCarryingCapacity})
     hideForm(session_, form);
+  checkdat::createControls(session_);
 }
 
 void MainForm::Form_Load() {
@@ -199,11 +201,7 @@ void MainForm::loadLifeTable() {
   Model& m = session_.model();
 
   flags.LifeTableLoaded = "Yes";
-  flags.WithCxj = yesNo(ask.askYesNo("Data file with real consumption rate or predation rate C(x,j)?\n"
-                                     "\n"
-                                     "(Yes: with C(x,j)\n"
-                                     "(No: without C(x,j)",
-                                     "Attention"));
+  flags.WithCxj = yesNo(ask.askYesNo(kWithCxjQuestion, "Attention"));
   m.ReleaseDate =
       toInt16(askNumber(ask, "What is the day that the initial population will be released?\n"
                              "(In general, it is day 0.)",
@@ -440,6 +438,8 @@ void MainForm::Command4_Click() {
   if (!session_.largeGraphsLoaded)
     largeGraphs_.Form_Load();
 }
+
+void MainForm::Command24_Click() { checkdat::showDataFormat(session_); }
 
 void MainForm::returnFrom(const std::string& form) {
   hideForm(session_, form);

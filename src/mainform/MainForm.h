@@ -55,6 +55,8 @@ public:
   /// Show large graph: grafform shows, the main form hides; the first time,
   /// grafform loads with the stage chart.
   void Command4_Click();
+  /// Show data format: the check report of the data file on CheckDat.
+  void Command24_Click();
   /// An information form goes back to the main form.
   void returnFrom(const std::string& form);
   /// The clock: the date and time of `now` and a greeting for its hour.
@@ -74,6 +76,11 @@ public:
 
   /// The title of the file dialog of the load.
   static constexpr const char* kDataFileDialogTitle = "Open the vorlex data file";
+  /// The question whether a data file has the consumption block C(x,j).
+  static constexpr const char* kWithCxjQuestion = "Data file with real consumption rate or predation rate C(x,j)?\n"
+                                                  "\n"
+                                                  "(Yes: with C(x,j)\n"
+                                                  "(No: without C(x,j)";
 
   /// The two sayings on show, indices into sayings().
   int sayingShown[2] = {0, 1};
