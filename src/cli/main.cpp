@@ -21,7 +21,8 @@ const char* const kInfoUsage =
     "      --cxj          the file has the consumption block C(x,j)\n"
     "      --sim-time N   simulation time that bounds the daily tables (default 60)\n";
 
-const std::string kUsage = std::string("Usage:\n") + vorlex::cli::kRunUsage + kInfoUsage + vorlex::cli::kCheckUsage +
+const std::string kUsage = std::string("Usage:\n") + vorlex::cli::kRunUsage + kInfoUsage +
+                           vorlex::cli::kCheckUsage +
                            "  vorlex --version\n"
                            "      Prints the version.\n"
                            "Each command's --help prints its own usage.\n";

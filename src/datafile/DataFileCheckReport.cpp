@@ -114,8 +114,9 @@ private:
       m_.StageName(stage) = in_.readText().substr(0, kStageNameLength);
       m_.WeighCoef(stage) = in_.readNumber();
       m_.DensityCoef(stage) = in_.readValue().toNumber();
-      out_.print("Stage ", stage, m_.StageName(stage), ": age", m_.StageAge(stage, 1), "to", m_.StageAge(stage, 2),
-                 ", weighing coef.=", m_.WeighCoef(stage), ", density coef.=", m_.DensityCoef(stage));
+      out_.print("Stage ", stage, m_.StageName(stage), ": age", m_.StageAge(stage, 1), "to",
+                 m_.StageAge(stage, 2), ", weighing coef.=", m_.WeighCoef(stage),
+                 ", density coef.=", m_.DensityCoef(stage));
     }
   }
 
@@ -143,8 +144,8 @@ private:
     m_.GrowthDecrease = decreaseRate();
     description();
     for (int stage = 1; stage <= m_.NrStage; ++stage) {
-      out_.print(m_.StageName(stage), " growth rate from age", m_.StageAge(stage, 1), "to", m_.StageAge(stage, 2),
-                 ":");
+      out_.print(m_.StageName(stage), " growth rate from age", m_.StageAge(stage, 1), "to",
+                 m_.StageAge(stage, 2), ":");
       stageValues(m_.GrowthRate, stage, stage, m_.GrowthDecrease);
     }
   }
@@ -231,7 +232,8 @@ private:
     out_.print(hyphens(width));
     out_.printOpen("Weakness      ");
     for (int stage = 1; stage <= m_.NrStage; ++stage)
-      out_.printOpen(stage < m_.NrStage ? padded(m_.StageName(stage), kColumn - 2) + "  " : m_.StageName(stage));
+      out_.printOpen(stage < m_.NrStage ? padded(m_.StageName(stage), kColumn - 2) + "  "
+                                        : m_.StageName(stage));
     out_.endLine();
     out_.print(hyphens(width));
     for (int factor = 1; factor <= m_.NrWeakFactor; ++factor) {
@@ -324,8 +326,8 @@ private:
     out_.endLine();
     out_.print(hyphens(width));
     int k = 0;
-    for (int day = m_.ControlDate(i), last = toInt16(m_.ControlDate(i) + m_.ControlDuration(i) - 1); day <= last;
-         day = checkedInt16(day + 1)) {
+    for (int day = m_.ControlDate(i), last = toInt16(m_.ControlDate(i) + m_.ControlDuration(i) - 1);
+         day <= last; day = checkedInt16(day + 1)) {
       ++k;
       out_.printOpen(padded(blankLed(k), kColumn));
       for (int stage = 1; stage <= m_.NrStage; ++stage) {

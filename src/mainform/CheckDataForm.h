@@ -19,7 +19,8 @@ inline constexpr const char* kReport = "CheckDat.Picture1";
 inline constexpr const char* kVerdict = "CheckDat.lblVerdict";
 inline constexpr const char* kBack = "CheckDat.Command1";
 
-inline constexpr const char* kAgree = "The file was read to its end, and its statistics agree with its table.";
+inline constexpr const char* kAgree =
+    "The file was read to its end, and its statistics agree with its table.";
 inline constexpr const char* kDisagree =
     "The file was read to its end, but its statistics disagree with its table: see the lines marked "
     "DISAGREES at the end.";

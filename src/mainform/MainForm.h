@@ -77,10 +77,11 @@ public:
   /// The title of the file dialog of the load.
   static constexpr const char* kDataFileDialogTitle = "Open the vorlex data file";
   /// The question whether a data file has the consumption block C(x,j).
-  static constexpr const char* kWithCxjQuestion = "Data file with real consumption rate or predation rate C(x,j)?\n"
-                                                  "\n"
-                                                  "(Yes: with C(x,j)\n"
-                                                  "(No: without C(x,j)";
+  static constexpr const char* kWithCxjQuestion =
+      "Data file with real consumption rate or predation rate C(x,j)?\n"
+      "\n"
+      "(Yes: with C(x,j)\n"
+      "(No: without C(x,j)";
 
   /// The two sayings on show, indices into sayings().
   int sayingShown[2] = {0, 1};

@@ -63,7 +63,8 @@ bool printStatisticsCheck(Session& session, OutputFile& picture) {
 
   picture.print("");
   picture.print("Life-table statistics: the file's and those worked out from the table as read");
-  picture.print(padded("", kNameField), padded("In the file", kValueField), padded("From the table", kValueField));
+  picture.print(padded("", kNameField), padded("In the file", kValueField),
+                padded("From the table", kValueField));
   std::vector<const Row*> disagreeing;
   for (const Row& row : rows) {
     picture.print(padded(row.name, kNameField), padded(digits(row.file), kValueField),
@@ -74,13 +75,14 @@ bool printStatisticsCheck(Session& session, OutputFile& picture) {
   if (!dominant.settled)
     picture.print("The dominant eigenvalue had not settled after", dominant.iterations, "iterations.");
   if (m.FecundityDecrease != 1 || m.GrowthDecrease != 1 || m.DevelopDecrease != 1)
-    picture.print("The decrease rates of the file lower the table: the values from the table are those of the "
-                  "lowered rates.");
+    picture.print(
+        "The decrease rates of the file lower the table: the values from the table are those of the "
+        "lowered rates.");
 
   picture.print("");
   for (const Row* row : disagreeing) {
-    std::string line = std::string("DISAGREES: ") + row->name + " (" + row->what + ") is " + digits(row->file) +
-                       " in the file, " + shown(row->table) + " from the table";
+    std::string line = std::string("DISAGREES: ") + row->name + " (" + row->what + ") is " +
+                       digits(row->file) + " in the file, " + shown(row->table) + " from the table";
     if (row->table && row->file != 0)
       line += ", a relative difference of " + relativeDifference(row->file, *row->table);
     picture.print(line + ".");

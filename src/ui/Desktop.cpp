@@ -1,6 +1,7 @@
 #include "Desktop.h"
 
 #include "ChartView.h"
+#include "CheckDataWindow.h"
 #include "FormPrinting.h"
 #include "LargeGraphWindow.h"
 #include "MainWindow.h"
@@ -8,6 +9,7 @@
 #include "info/ClosingScreen.h"
 #include "info/InfoTexts.h"
 #include "info/QuizScreen.h"
+#include "mainform/CheckDataForm.h"
 #include "mainform/Forms.h"
 #include "textio/RuntimeError.h"
 
@@ -25,7 +27,7 @@ namespace {
 using Handler = void (MainForm::*)();
 
 // The main form's controls that do something when clicked. The others
-// (Command5, Command24 and the steps whose forms come later) do nothing.
+// (Command5 and the steps whose forms come later) do nothing.
 const std::map<QString, Handler>& mainHandlers() {
   static const std::map<QString, Handler> kHandlers = {
       {"Command2", &MainForm::Command2_Click},   {"cmdInputLTdata", &MainForm::cmdInputLTdata_Click},
@@ -38,7 +40,7 @@ const std::map<QString, Handler>& mainHandlers() {
       {"Command6", &MainForm::Command6_Click},   {"Command7", &MainForm::Command7_Click},
       {"Command9", &MainForm::Command9_Click},   {"Command14", &MainForm::Command14_Click},
       {"Command15", &MainForm::Command15_Click}, {"cmdHowToPrint", &MainForm::cmdHowToPrint_Click},
-      {"Command4", &MainForm::Command4_Click},
+      {"Command4", &MainForm::Command4_Click},   {"Command24", &MainForm::Command24_Click},
   };
   return kHandlers;
 }
@@ -111,6 +113,10 @@ void Desktop::buildOtherForms() {
   connect(quiz, &QuizScreen::backClicked, this,
           [this] { handle([this] { form_->returnFrom(forms::kQuiz); }); });
   otherForms_[forms::kQuiz].reset(quiz);
+  auto* check = new CheckDataWindow;
+  connect(check, &CheckDataWindow::backClicked, this,
+          [this] { handle([this] { checkdat::Command1_Click(*session_); }); });
+  otherForms_[forms::kCheckData].reset(check);
   auto* closing = new ClosingScreen;
   connect(closing, &ClosingScreen::endClicked, this, [this] { endProgram(0); });
   otherForms_[forms::kClosing].reset(closing);
@@ -208,6 +214,8 @@ void Desktop::showAll() {
   showCharts();
   for (const std::string& form : {std::string(forms::kMainform), std::string(forms::kLargeGraphs)})
     formWindow(form)->setVisible(formShows(*session_, form));
+  if (auto* check = dynamic_cast<CheckDataWindow*>(formWindow(forms::kCheckData)))
+    check->showStates(*session_);
   for (const auto& [name, window] : otherForms_)
     window->setVisible(formShows(*session_, name));
 }
