@@ -4,8 +4,10 @@
 #include "charts/ChartFamily.h"
 #include "cli/AnswerPrompter.h"
 #include "exports/TotalPredation.h"
+#include "mainform/CheckDataForm.h"
 #include "mainform/Forms.h"
 #include "ui/ChartView.h"
+#include "ui/CheckDataWindow.h"
 #include "ui/Desktop.h"
 #include "ui/FormPrinting.h"
 #include "ui/LargeGraphWindow.h"
@@ -20,6 +22,7 @@
 #include <QLineEdit>
 #include <QLineSeries>
 #include <QMessageBox>
+#include <QPlainTextEdit>
 #include <QPrinter>
 #include <QProcess>
 #include <QRadioButton>
@@ -851,6 +854,52 @@ private slots:
     QVERIFY(!s.shows(forms::kMainform));
     s.desktop.activateMainChart(); // nothing runs after the end
     QCOMPARE(int(s.desktop.session().ChartCycleIndex), 0);
+  }
+
+  void showDataFormatChecksAFileOnItsOwnForm() {
+    Clicked s;
+    const std::string chooseFile = std::string(checkdat::kFileDialogTitle) + "=";
+    // Before a load the button asks for the form and the file: first a
+    // file that is not there, then the example.
+    for (const std::string& file : {std::string("/nonexistent/moth.txt"), s.dataFile.toStdString()}) {
+      s.answers.addAnswer("Attention=No");
+      s.answers.addAnswer(chooseFile + file);
+    }
+    auto* window = qobject_cast<ui::CheckDataWindow*>(s.desktop.formWindow(forms::kCheckData));
+    QVERIFY(window);
+    auto shown = [&] { return window->report()->toPlainText() + "\n\n" + window->verdict()->text() + "\n"; };
+    auto back = [&] {
+      QTest::mouseClick(window->findChild<QAbstractButton*>(QStringLiteral("Command1")), Qt::LeftButton);
+      QVERIFY(!s.shows(forms::kCheckData) && s.shows(forms::kMainform));
+    };
+
+    // A file that can't be read is told on the form; the session goes on.
+    s.click("Command24");
+    QVERIFY(s.shows(forms::kCheckData) && !s.shows(forms::kMainform));
+    QVERIFY(
+        window->report()->toPlainText().startsWith(QStringLiteral("\nRun-time error '53': File not found")));
+    QCOMPARE(window->verdict()->text(), QString::fromLatin1(checkdat::kStopped));
+    QVERIFY(s.errors.isEmpty() && !s.desktop.ended());
+    back();
+
+    // The example: the report of the command line.
+    const QString expected =
+        QString::fromUtf8(contentsOf(QStringLiteral(VORLEX_TEST_DATA_DIR "/check/moth.expected")));
+    s.click("Command24");
+    QCOMPARE(shown(), expected);
+    QCOMPARE(window->windowTitle(), QStringLiteral("Data file check: ") + s.dataFile);
+    QVERIFY(window->grab().save(testing::screenshotPath(QStringLiteral("data-file-check.png"))));
+    back();
+
+    // After a run the loaded file is checked, without a question, and the
+    // run's series stay as the run left them.
+    s.runNoControl("5");
+    const double total = s.desktop.session().model().TotalSize(5);
+    s.click("Command24");
+    QCOMPARE(shown(), expected);
+    QCOMPARE(s.desktop.session().model().TotalSize(5), total);
+    QVERIFY(s.answers.unusedAnswers().empty());
+    back();
   }
 };
 
