@@ -163,7 +163,27 @@ ParabolaBoxes parabolaBoxes(const CarryForm& form) {
 
 } // namespace
 
+namespace {
+
+// Where a failure of the form happened: the button and the form of K.
+std::string placeOn(const char* button, int option) {
+  std::string place = std::string("\"") + button + "\" on \"" + CarryForm::kTitle + "\"";
+  if (option >= 1 && option <= 3)
+    place += std::string(", ") + CarryForm::options()[option - 1].caption;
+  return place;
+}
+
+} // namespace
+
 void CarryForm::Command1_Click() {
+  try {
+    calculate();
+  } catch (const RuntimeError& error) {
+    throw error.at(placeOn("Calculate K(i) and show graph", selected_));
+  }
+}
+
+void CarryForm::calculate() {
   Model& m = session_.model();
   switch (selected_) {
   case 1:
@@ -189,7 +209,11 @@ void CarryForm::Command1_Click() {
 
 void CarryForm::Command3_Click() {
   Model& m = session_.model();
-  fillPolynomialGrid(m, polynomialBoxes(*this));
+  try {
+    fillPolynomialGrid(m, polynomialBoxes(*this));
+  } catch (const RuntimeError& error) {
+    throw error.at(placeOn("Preview", 2));
+  }
   showChart(ShowPolynomial(m));
   session_.controls[control("MSChart1")].visible = true;
   session_.controls[control("Label12")].visible = false;
@@ -197,7 +221,11 @@ void CarryForm::Command3_Click() {
 
 void CarryForm::Command4_Click() {
   Model& m = session_.model();
-  fillParabolaGrid(m, parabolaBoxes(*this));
+  try {
+    fillParabolaGrid(m, parabolaBoxes(*this));
+  } catch (const RuntimeError& error) {
+    throw error.at(placeOn("Find the parabola for the above data", 3));
+  }
   showChart(ShowParabola(m));
   auto& controls = session_.controls;
   controls[control("MSChart1")].visible = true;

@@ -83,6 +83,7 @@ public:
 
 private:
   void selectOption(int number);
+  void calculate();
   double number(const char* box) const;
   void showChart(ChartContent content);
 

@@ -98,7 +98,11 @@ void EtAtForm::fill(int option) {
     raise(ErrorCode::SubscriptOutOfRange, "Option" + std::to_string(option) + " of ETandAT");
   }
   Model& m = session_.model();
-  fillEtFromEquation(m, static_cast<EtEquation>(option), p);
+  try {
+    fillEtFromEquation(m, static_cast<EtEquation>(option), p);
+  } catch (const RuntimeError& error) {
+    throw error.at(std::string("\"") + kOptionCaptions[option - 1] + "\" on \"" + kTitle + "\"");
+  }
   showChart(ShowEtorAt(m));
 }
 
