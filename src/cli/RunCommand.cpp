@@ -2,18 +2,20 @@
 
 #include "cli/AnswerPrompter.h"
 #include "cli/DataFileCheck.h"
+#include "mainform/FunctionScripts.h"
 #include "mainform/MainForm.h"
 #include "model/Session.h"
 #include "textio/NumberForms.h"
 
 #include <algorithm>
 #include <iterator>
+#include <optional>
 
 namespace vorlex::cli {
 
 const char* const kRunUsage =
     "  vorlex run DATAFILE [--strategy S] [--sim-time N] [--answer 'TITLE=VALUE']...\n"
-    "             [--answers FILE] [--date TEXT]\n"
+    "             [--answers FILE] [--date TEXT] [--carrying-capacity SPEC] [--et SPEC]\n"
     "      Runs a whole session: simulation time, load of DATAFILE, strategy, run.\n"
     "      Outputs go beside DATAFILE.\n"
     "      --strategy S   no-control (default), predefined, auto-et, harvest, lambda,\n"
@@ -25,7 +27,13 @@ const char* const kRunUsage =
     "                     value prompt takes its default, yes/no is No, a file\n"
     "                     dialog is cancelled.\n"
     "      --answers FILE one TITLE=VALUE a line, # comments\n"
-    "      --date TEXT    date printed on the report (default: today)\n";
+    "      --date TEXT    date printed on the report (default: today)\n"
+    "      --carrying-capacity SPEC  density-dependent mortality under K(t), set on\n"
+    "                     the form \"Density-dependent K?\" after the strategy is chosen:\n"
+    "                     logistic:KMAX,K0,R | polynomial:A,B,C,D,XFROM,XTO |\n"
+    "                     parabola:Y0,YMAX,XMAX,XFROM,XTO | none\n"
+    "      --et SPEC      ET(t) from an equation of the form \"ET(t)\", after the load:\n"
+    "                     constant:A | linear:A,B | logistic:A,B,C,L | hyperbola:A,B\n";
 
 namespace {
 
@@ -52,6 +60,8 @@ struct RunOptions {
   std::string strategy = "no-control";
   std::string simTime = "60";
   std::string date;
+  std::optional<FormChoice> capacity;
+  std::optional<FormChoice> et;
 };
 
 const Strategy* findStrategy(const std::string& name) {
@@ -83,6 +93,10 @@ int runCommand(const std::vector<std::string>& args, std::ostream& out, std::ost
         prompter.addAnswersFromFile(args[++i]);
       else if (arg == "--date" && hasValue)
         options.date = args[++i];
+      else if (arg == "--carrying-capacity" && hasValue)
+        options.capacity = parseCarryingCapacity(args[++i]);
+      else if (arg == "--et" && hasValue)
+        options.et = parseEtEquation(args[++i]);
       else if (!arg.empty() && arg[0] != '-' && options.dataFile.empty())
         options.dataFile = arg;
       else
@@ -91,6 +105,9 @@ int runCommand(const std::vector<std::string>& args, std::ostream& out, std::ost
     if (options.dataFile.empty())
       throw AnswerError("no data file given");
   } catch (const AnswerError& error) {
+    err << "vorlex: " << error.what() << "\nUsage:\n" << kRunUsage;
+    return 2;
+  } catch (const FormScriptError& error) {
     err << "vorlex: " << error.what() << "\nUsage:\n" << kRunUsage;
     return 2;
   }
@@ -122,8 +139,16 @@ int runCommand(const std::vector<std::string>& args, std::ostream& out, std::ost
   try {
     form.Command2_Click();
     form.cmdInputLTdata_Click();
+    if (options.et)
+      applyEtEquation(form, *options.et);
     form.chooseOption(strategy->option);
+    if (options.capacity)
+      applyCarryingCapacity(form, *options.capacity);
     form.cmdRun_Click();
+  } catch (const FormScriptError& error) {
+    session.files.closeAll();
+    err << "vorlex: " << error.what() << '\n';
+    return 2;
   } catch (const AnswerError& error) {
     session.files.closeAll();
     err << "vorlex: " << error.what() << '\n';

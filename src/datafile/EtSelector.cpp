@@ -42,6 +42,11 @@ std::string etFormName(EtForm form) {
   return "none (ET is 0 on every day)";
 }
 
+void expandLogisticEt(Model& m) {
+  for (int t = 0, lastDay = checkedInt16(m.SimTime + 1); t <= lastDay; ++t)
+    m.EtDay(t) = divide(m.EtB, 1 + m.EtC * exponential(m.EtD * t)) + m.EtA;
+}
+
 void readEtFunction(Session& session, bool withCxj) {
   Model& m = session.model();
   ItemReader& in = session.files.input(kDataFile);
@@ -75,8 +80,7 @@ void readEtFunction(Session& session, bool withCxj) {
     m.EtC = in.readNumber();
     m.EtD = in.readNumber();
     m.EtA = in.readNumber();
-    for (int t = 0, lastDay = checkedInt16(m.SimTime + 1); t <= lastDay; ++t)
-      m.EtDay(t) = divide(m.EtB, 1 + m.EtC * exponential(m.EtD * t)) + m.EtA;
+    expandLogisticEt(m);
     break;
   case EtForm::None:
     break;

@@ -25,6 +25,10 @@ EtForm classifyEtSelector(const std::string& selector, bool withCxj);
 /// A name of the form for people to read.
 std::string etFormName(EtForm form);
 
+/// ET(t) = a + b / (1 + c exp(d t)) of the logistic description, with
+/// a, b, c, d in EtA, EtB, EtC, EtD, for days 0..SimTime+1.
+void expandLogisticEt(Model& m);
+
 /// Reads the ET selector and its parameters and fills EtDay for days
 /// 0..SimTime+1; a selector of no known form leaves EtDay as it is.
 void readEtFunction(Session& session, bool withCxj);

@@ -13,6 +13,7 @@ namespace forms {
 inline constexpr const char* kMainform = "Mainform";
 inline constexpr const char* kLargeGraphs = "grafform";
 inline constexpr const char* kCarryingCapacity = "CarryFrm";
+inline constexpr const char* kEtAndAt = "ETandAT";
 /// The introductions I1..I4.
 inline constexpr const char* kIntroductions[] = {"Introfrm", "Intro1", "Intro2", "Intro0"};
 inline constexpr const char* kReferences = "Referenc";

@@ -2,6 +2,8 @@
 
 #include "datafile/DataFileReader.h"
 #include "mainform/CheckDataForm.h"
+#include "datafile/EtSelector.h"
+#include "functions/FunctionCharts.h"
 #include "mainform/Forms.h"
 #include "mainform/LambdaCheck.h"
 #include "mainform/ParameterText.h"
@@ -35,6 +37,7 @@ constexpr ControlSetup kCreated[] = {
     {"Frame1", "", true},
     {"txtSimuT", "", true},
     {"cmdKandT", "Density-dependent K?", false, true, "Enter simulation time and carrying capacity function"},
+    {"cmdETandAT", "ET(t)", false, true, "Look at ET or AT over time, or replace it by an equation"},
     {"Command2", "OK", true},
     {"cmdInputLTdata", "Read life table and vorlex data", false, true,
      "Open data file no. 15 created by Quorat"},
@@ -110,7 +113,8 @@ std::string withoutLastFour(const std::string& path) {
 
 } // namespace
 
-MainForm::MainForm(Session& session) : session_(session), largeGraphs_(session) {
+MainForm::MainForm(Session& session)
+    : session_(session), largeGraphs_(session), carryForm_(session), etAtForm_(session) {
   for (const ControlSetup& setup : kCreated)
     session_.controls[setup.name] = ControlState{setup.enabled, setup.visible, setup.caption, setup.hint};
   // The main form shows from the start; every other form waits for its
@@ -236,6 +240,8 @@ void MainForm::loadLifeTable() {
     flags.FlowFlag = "No";
   }
   readDataFile(session_, names.DataFileName);
+  if (m.EtSelector == EtForm::Logistic)
+    showFileThresholdOnForm();
   showParameters();
 
   names.ReportFileName = names.BaseName + "_0_output.txt";
@@ -244,6 +250,9 @@ void MainForm::loadLifeTable() {
   enable(session_, {"cmdInputLTdata", "Command3"}, false);
   enable(session_, {"Frame4", "Option1", "Option2", "Option3", "Option6", "Option7", "Option8", "Option9",
                     "cmdStageSamplingData", "cmdStageProjection", "cmdProjectionAfterSampling", "MSChart1"});
+  // The first run can be density-limited and can take a threshold from an
+  // equation.
+  enable(session_, {"cmdKandT", "cmdETandAT"});
   enable(session_, {"Command2"}, false);
 }
 
@@ -440,6 +449,35 @@ void MainForm::Command4_Click() {
 }
 
 void MainForm::Command24_Click() { checkdat::showDataFormat(session_); }
+void MainForm::showFileThresholdOnForm() {
+  // The reader writes the logistic's parameters into the threshold form's
+  // boxes: the first write loads the form and selects the logistic, which
+  // fills the table from the boxes as they are at that moment; then the
+  // reader fills the table from the file's numbers.
+  Model& m = session_.model();
+  etAtForm_.change("txtA", digits(m.EtB));
+  etAtForm_.change("txtB", digits(m.EtC));
+  etAtForm_.change("txtC", digits(m.EtD));
+  etAtForm_.change("txtL", digits(m.EtA));
+  expandLogisticEt(m);
+}
+
+void MainForm::cmdKandT_Click() {
+  showInstead(forms::kCarryingCapacity);
+  carryForm_.loadOnce();
+  enable(session_, {"Frame4"}, false);
+}
+
+void MainForm::Command16_Click() {
+  showInstead(forms::kCarryingCapacity);
+  carryForm_.loadOnce();
+}
+
+void MainForm::cmdETandAT_Click() {
+  showInstead(forms::kEtAndAt);
+  etAtForm_.loadOnce();
+  etAtForm_.showChart(PlotETandAt(session_));
+}
 
 void MainForm::returnFrom(const std::string& form) {
   hideForm(session_, form);
@@ -455,6 +493,11 @@ void MainForm::Timer1_Timer(const std::tm& now) {
                          : now.tm_hour < 18 ? "Good afternoon!"
                                             : "Good evening!";
   session_.controls["lblGreeting"].caption = greeting;
+}
+
+bool MainForm::controlEnabled(const std::string& name) const {
+  const auto found = session_.controls.find(name);
+  return found != session_.controls.end() && found->second.enabled;
 }
 
 bool MainForm::optionOpen(int number) const {

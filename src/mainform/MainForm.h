@@ -1,5 +1,7 @@
 #pragma once
 
+#include "mainform/CarryForm.h"
+#include "mainform/EtAtForm.h"
 #include "mainform/LargeGraphForm.h"
 
 #include <ctime>
@@ -57,6 +59,15 @@ public:
   void Command4_Click();
   /// Show data format: the check report of the data file on CheckDat.
   void Command24_Click();
+  /// Density-dependent K?: the carrying-capacity form shows, the main form
+  /// hides and the strategies are locked.
+  void cmdKandT_Click();
+  /// Carrying capacity: the carrying-capacity form shows (after Go back,
+  /// for viewing only) and the main form hides.
+  void Command16_Click();
+  /// ET(t): the threshold form shows with the threshold of the session
+  /// drawn over time, and the main form hides.
+  void cmdETandAT_Click();
   /// An information form goes back to the main form.
   void returnFrom(const std::string& form);
   /// The clock: the date and time of `now` and a greeting for its hour.
@@ -66,7 +77,14 @@ public:
   /// this build has the driver of its strategy.
   bool optionOpen(int number) const;
 
+  /// Whether a control of the main form can be clicked now.
+  bool controlEnabled(const std::string& name) const;
+
   LargeGraphForm& largeGraphs() { return largeGraphs_; }
+  CarryForm& carryingCapacity() { return carryForm_; }
+  const CarryForm& carryingCapacity() const { return carryForm_; }
+  EtAtForm& threshold() { return etAtForm_; }
+  const EtAtForm& threshold() const { return etAtForm_; }
 
   /// Whether this build has the driver that cmdRun runs for a strategy
   /// value of OptManagement.
@@ -93,10 +111,15 @@ private:
   /// it, the day, and the file being written, if any.
   std::string runPlace(const std::string& strategy);
   void showParameters();
+  /// The logistic threshold of the data file shown in the boxes of the
+  /// threshold form.
+  void showFileThresholdOnForm();
   void showInstead(const std::string& form);
 
   Session& session_;
   LargeGraphForm largeGraphs_;
+  CarryForm carryForm_;
+  EtAtForm etAtForm_;
 };
 
 } // namespace vorlex

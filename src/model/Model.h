@@ -163,6 +163,29 @@ struct Model {
   Table1<double> DensityCoefBelowKDay{kLastDaySlot};
   Table1<double> DensityCoefOverKDay{kLastDaySlot};
   Table1<double> SizeToK{kLastDaySlot};
+  // The carrying capacity's forms: the largest K of a polynomial or
+  // parabola table, Kmax and r of the logistic, the polynomial's a and b
+  // (kept as the text of the number read), c and d, the x grids with their
+  // range and step, and the parabola's entered points and coefficients.
+  double KTableMaximum = 0;
+  double KMax = 0;
+  double KRate = 0;
+  std::string PolyA;
+  std::string PolyB;
+  double PolyC = 0;
+  double PolyD = 0;
+  double PolyXFrom = 0;
+  double ParabolaXFrom = 0;
+  double XTo = 0;
+  double XStep = 0;
+  Table1<double> PolyX{kLastDaySlot};
+  Table1<double> ParabolaX{kLastDaySlot};
+  double ParabolaY0 = 0;
+  double ParabolaYMax = 0;
+  double ParabolaXMax = 0;
+  double ParabolaC = 0;
+  double ParabolaB = 0;
+  double ParabolaA = 0;
   Table1<i16> AutoControlDay{kLastDaySlot};
   Table1<double> SizeBeforeControl{kLastDaySlot};
   Table1<double> SizeAfterControl{kLastDaySlot};

@@ -1,7 +1,9 @@
 #include "Desktop.h"
 
+#include "CarryWindow.h"
 #include "ChartView.h"
 #include "CheckDataWindow.h"
+#include "EtAtWindow.h"
 #include "FormPrinting.h"
 #include "LargeGraphWindow.h"
 #include "MainWindow.h"
@@ -41,6 +43,8 @@ const std::map<QString, Handler>& mainHandlers() {
       {"Command9", &MainForm::Command9_Click},   {"Command14", &MainForm::Command14_Click},
       {"Command15", &MainForm::Command15_Click}, {"cmdHowToPrint", &MainForm::cmdHowToPrint_Click},
       {"Command4", &MainForm::Command4_Click},   {"Command24", &MainForm::Command24_Click},
+      {"cmdKandT", &MainForm::cmdKandT_Click},
+      {"Command16", &MainForm::Command16_Click}, {"cmdETandAT", &MainForm::cmdETandAT_Click},
   };
   return kHandlers;
 }
@@ -50,7 +54,8 @@ const std::map<QString, Handler>& mainHandlers() {
 Desktop::Desktop(Prompter& prompter)
     : prompter_(prompter), session_(std::make_unique<Session>(prompter)),
       form_(std::make_unique<MainForm>(*session_)), mainWindow_(std::make_unique<MainWindow>()),
-      largeGraphWindow_(std::make_unique<LargeGraphWindow>()) {
+      largeGraphWindow_(std::make_unique<LargeGraphWindow>()), carryWindow_(std::make_unique<CarryWindow>()),
+      etAtWindow_(std::make_unique<EtAtWindow>()) {
   // The application takes the user's locale for everything; numbers in the
   // files must keep the decimal point whatever the user's locale says.
   std::setlocale(LC_NUMERIC, "C");
@@ -77,9 +82,25 @@ Desktop::Desktop(Prompter& prompter)
       handle([this] { form_->largeGraphs().Form_Unload(); });
   });
 
+  CarryWindow* carry = carryWindow_.get();
+  connect(carry, &CarryWindow::controlClicked, this, &Desktop::clickCarryingCapacity);
+  connect(carry, &CarryWindow::closing, this, [this] {
+    if (formShows(*session_, forms::kCarryingCapacity))
+      handle([this] { form_->carryingCapacity().Form_Unload(); });
+  });
+  EtAtWindow* threshold = etAtWindow_.get();
+  connect(threshold, &EtAtWindow::controlClicked, this, &Desktop::clickThreshold);
+  connect(threshold, &EtAtWindow::boxChanged, this, &Desktop::changeThresholdBox);
+  connect(threshold, &EtAtWindow::enterPressed, this, &Desktop::pressEnterInThresholdBox);
+  connect(threshold, &EtAtWindow::closing, this, [this] {
+    if (formShows(*session_, forms::kEtAndAt))
+      handle([this] { form_->threshold().Form_Unload(); });
+  });
+
   // Charts can be saved as pictures wherever they show.
   auto chooseFile = [this](const std::string& title) { return session_->prompter().chooseFileToSave(title); };
-  for (ChartView* view : {main->mainChart(), main->samplingChart(), large->chart()})
+  for (ChartView* view :
+       {main->mainChart(), main->samplingChart(), large->chart(), carry->chart(), threshold->chart()})
     view->chooseFileToSave = chooseFile;
 
   buildOtherForms();
@@ -133,6 +154,10 @@ QWidget* Desktop::formWindow(const std::string& form) const {
     return mainWindow_.get();
   if (form == forms::kLargeGraphs)
     return largeGraphWindow_.get();
+  if (form == forms::kCarryingCapacity)
+    return carryWindow_.get();
+  if (form == forms::kEtAndAt)
+    return etAtWindow_.get();
   const auto found = otherForms_.find(form);
   return found == otherForms_.end() ? nullptr : found->second.get();
 }
@@ -174,6 +199,43 @@ void Desktop::clickLargeGraphs(const QString& control) {
     handle([&large, name = control.toStdString()] { large.clickChartButton(name); });
 }
 
+void Desktop::clickCarryingCapacity(const QString& control) {
+  CarryForm& carry = form_->carryingCapacity();
+  const std::string name = control.toStdString();
+  handle([&carry, name] {
+    if (name.rfind("Option", 0) == 0)
+      carry.chooseOption(std::stoi(name.substr(6)));
+    else if (name == "Command1")
+      carry.Command1_Click();
+    else if (name == "Command2")
+      carry.Command2_Click();
+    else if (name == "Command3")
+      carry.Command3_Click();
+    else if (name == "Command4")
+      carry.Command4_Click();
+  });
+}
+
+void Desktop::clickThreshold(const QString& control) {
+  EtAtForm& threshold = form_->threshold();
+  const std::string name = control.toStdString();
+  handle([&threshold, name] {
+    if (name.rfind("Option", 0) == 0)
+      threshold.chooseOption(std::stoi(name.substr(6)));
+    else if (name == "Command1")
+      threshold.Command1_Click();
+  });
+}
+
+void Desktop::changeThresholdBox(const QString& box, const QString& text) {
+  handle(
+      [this, box = box.toStdString(), text = text.toStdString()] { form_->threshold().change(box, text); });
+}
+
+void Desktop::pressEnterInThresholdBox(const QString& box) {
+  handle([this, box = box.toStdString()] { form_->threshold().keyPress(box, EtAtForm::kEnter); });
+}
+
 void Desktop::activateMainChart() {
   handle([this] { MSChart1_Activate(*session_); });
 }
@@ -187,6 +249,7 @@ void Desktop::handle(const std::function<void()>& handler) {
     return;
   // What the user typed reaches the session before any handler reads it.
   mainWindow_->takeTexts(*session_);
+  carryWindow_->takeTexts(*session_);
   try {
     handler();
   } catch (const RuntimeError& error) {
@@ -211,8 +274,11 @@ void Desktop::handle(const std::function<void()>& handler) {
 void Desktop::showAll() {
   mainWindow_->showStates(*session_, *form_);
   largeGraphWindow_->showStates(*session_);
+  carryWindow_->showStates(*session_, form_->carryingCapacity());
+  etAtWindow_->showStates(*session_, form_->threshold());
   showCharts();
-  for (const std::string& form : {std::string(forms::kMainform), std::string(forms::kLargeGraphs)})
+  for (const std::string& form : {std::string(forms::kMainform), std::string(forms::kLargeGraphs),
+                                  std::string(forms::kCarryingCapacity), std::string(forms::kEtAndAt)})
     formWindow(form)->setVisible(formShows(*session_, form));
   if (auto* check = dynamic_cast<CheckDataWindow*>(formWindow(forms::kCheckData)))
     check->showStates(*session_);
@@ -228,6 +294,12 @@ void Desktop::showCharts() {
   ChartView* large = largeGraphWindow_->chart();
   if (large->content() != session_->largeChart)
     large->showContent(session_->largeChart);
+  ChartView* carry = carryWindow_->chart();
+  if (carry->content() != form_->carryingCapacity().chart())
+    carry->showContent(form_->carryingCapacity().chart());
+  ChartView* threshold = etAtWindow_->chart();
+  if (threshold->content() != form_->threshold().chart())
+    threshold->showContent(form_->threshold().chart());
 }
 
 QMessageBox* Desktop::errorBox(QWidget* parent, const QString& title, const QString& text) {
@@ -259,6 +331,8 @@ void Desktop::endProgram(int exitCode) {
   for (const auto& [name, window] : otherForms_)
     window->hide();
   largeGraphWindow_->hide();
+  carryWindow_->hide();
+  etAtWindow_->hide();
   mainWindow_->hide();
   emit programEnded(exitCode);
 }

@@ -20,6 +20,8 @@ class Prompter;
 
 namespace vorlex::ui {
 
+class CarryWindow;
+class EtAtWindow;
 class LargeGraphWindow;
 class MainWindow;
 
@@ -46,12 +48,20 @@ public:
   MainForm& form() { return *form_; }
   MainWindow& mainWindow() { return *mainWindow_; }
   LargeGraphWindow& largeGraphWindow() { return *largeGraphWindow_; }
+  CarryWindow& carryWindow() { return *carryWindow_; }
+  EtAtWindow& etAtWindow() { return *etAtWindow_; }
   /// The window of a form by its name ("Mainform", "grafform", "Quiz", ...).
   QWidget* formWindow(const std::string& form) const;
 
   /// A click on a control of the main form or of grafform, by name.
   void clickMain(const QString& control);
   void clickLargeGraphs(const QString& control);
+  /// A click on a control of the carrying-capacity form or of the
+  /// threshold form, by name; an edit of a threshold box, Enter in one.
+  void clickCarryingCapacity(const QString& control);
+  void clickThreshold(const QString& control);
+  void changeThresholdBox(const QString& box, const QString& text);
+  void pressEnterInThresholdBox(const QString& box);
   /// An activation of the main form's chart or of the large chart.
   void activateMainChart();
   void activateLargeChart();
@@ -96,6 +106,8 @@ private:
   std::unique_ptr<MainForm> form_;
   std::unique_ptr<MainWindow> mainWindow_;
   std::unique_ptr<LargeGraphWindow> largeGraphWindow_;
+  std::unique_ptr<CarryWindow> carryWindow_;
+  std::unique_ptr<EtAtWindow> etAtWindow_;
   std::map<std::string, std::unique_ptr<QWidget>> otherForms_;
   QTimer timer1_;
   bool ended_ = false;

@@ -97,7 +97,7 @@ MainWindow::MainWindow(QWidget* parent) : QWidget(parent) {
     options_->addWidget(option, (n - 1) % 5, (n - 1) / 5);
   }
   steps->addLayout(stepRow("3.", {frame4}));
-  steps->addLayout(stepRow("4.", {button("cmdKandT")}));
+  steps->addLayout(stepRow("4.", {button("cmdKandT"), button("cmdETandAT")}));
 
   // The population parameters as the data file gives them, in two rows of
   // three so that the steps stay narrow.

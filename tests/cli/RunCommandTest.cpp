@@ -62,6 +62,8 @@ TEST(RunCommand, AnUnusableCommandLineExitsWithTwo) {
   EXPECT_EQ(runCli("run", folder.dir().string()).status, 2);
   EXPECT_EQ(runCli("run x.txt --strategy sideways", folder.dir().string()).status, 2);
   EXPECT_EQ(runCli("run x.txt --answer novalue", folder.dir().string()).status, 2);
+  EXPECT_EQ(runCli("run x.txt --carrying-capacity cubic:1,2", folder.dir().string()).status, 2);
+  EXPECT_EQ(runCli("run x.txt --et linear:1", folder.dir().string()).status, 2);
 }
 
 } // namespace
@@ -131,6 +133,11 @@ TEST(RunCommand, FailuresSayWhereTheyHappenedAndTheirLikelyCause) {
       {"--strategy harvest --answer 'Harvest end date =?=201'", "Run-time error '9': Subscript out of range\n",
        "Run of \"Population growth with stage harvesting\", day 0, file being written: ",
        "Likely cause: a value in the data file or an answer lies outside"},
+      {"--carrying-capacity logistic:10000,0,.2", "Run-time error '11': Division by zero\n",
+       "\"Calculate K(i) and show graph\" on \"K(0), Kmax, r and simulation time\", Logistic equation\n",
+       "Likely cause:"},
+      {"--et hyperbola:100,0", "Run-time error '6': Overflow\n",
+       "\"Hyperbola equation: ET(t) = a* t / (b + t)\" on \"ET and AT\"\n", "Likely cause:"},
   };
   for (const Case& c : cases) {
     RunFolder folder("run-failure");

@@ -41,6 +41,7 @@ struct GoldenCase {
   int exitStatus = 0;
   std::vector<std::string> inputs = {}; // more files of tests/data the runs read
   std::optional<EarlierRun> earlier = {};
+  std::vector<std::string> options = {}; // more options of the run command
 };
 
 std::ostream& operator<<(std::ostream& out, const GoldenCase& c) { return out << c.name; }
@@ -77,12 +78,14 @@ std::string inFolder(std::string answer, const std::string& folder) {
 // <stream><suffix>.txt in the folder.
 void runAndKeepOutput(const RunFolder& folder, const std::string& dataFile, const std::string& strategy,
                       int simTime, const std::vector<std::string>& answers, int exitStatus,
-                      const std::string& suffix) {
+                      const std::string& suffix, const std::vector<std::string>& options = {}) {
   const std::string dir = folder.dir().string();
   std::string arguments = "run " + quoted(folder.path(dataFile)) + " --strategy " + strategy +
                           " --sim-time " + std::to_string(simTime) + " --date 2026-11-21";
   for (const std::string& answer : answers)
     arguments += " --answer " + quoted(inFolder(answer, dir));
+  for (const std::string& option : options)
+    arguments += " " + quoted(option);
   const CliResult result = runCli(arguments, dir);
   ASSERT_EQ(result.status, exitStatus) << dataFile << ": " << result.err;
   std::ofstream(folder.path("stdout" + suffix + ".txt"), std::ios::binary) << neutral(result.out, dir);
@@ -111,7 +114,7 @@ TEST_P(GoldenRun, EveryOutputFileMatchesItsReviewedCopy) {
     if (::testing::Test::HasFatalFailure())
       return;
   }
-  runAndKeepOutput(folder, c.dataFile, c.strategy, c.simTime, c.answers, c.exitStatus, "");
+  runAndKeepOutput(folder, c.dataFile, c.strategy, c.simTime, c.answers, c.exitStatus, "", c.options);
   if (::testing::Test::HasFatalFailure())
     return;
   for (const std::string& input : inputs) {
@@ -135,6 +138,13 @@ TEST_P(GoldenRun, EveryOutputFileMatchesItsReviewedCopy) {
       continue;
     EXPECT_EQ(fileText(folder.path(name)), fileText((golden / name).string())) << c.name << ": " << name;
   }
+}
+
+// A run of the example over 60 days with more options.
+GoldenCase onMoth(std::string name, std::string strategy, std::vector<std::string> options) {
+  GoldenCase c{std::move(name), "moth.txt", std::move(strategy), 60, {}};
+  c.options = std::move(options);
+  return c;
 }
 
 // The title of the file dialog that chooses a total-predation file.
@@ -232,6 +242,17 @@ const GoldenCase kCases[] = {
                 60,
                 {"Attention=No", "Attention=Yes", "Add time to total predation data.=5",
                  "Predator? Parasitoid? Pest?=aphids eaten"}}},
+    // Density-dependent mortality under each form of K(t): without control
+    // the weighed size passes K within the run; under control at ET the
+    // capacities are small enough for the controlled population to pass them.
+    onMoth("moth-capacity-logistic", "no-control", {"--carrying-capacity", "logistic:500,20,.15"}),
+    onMoth("moth-auto-et-capacity-logistic", "auto-et", {"--carrying-capacity", "logistic:40,5,.1"}),
+    onMoth("moth-capacity-polynomial", "no-control", {"--carrying-capacity", "polynomial:10,50,-0.6,2,0,50"}),
+    onMoth("moth-auto-et-capacity-polynomial", "auto-et",
+           {"--carrying-capacity", "polynomial:5,2,-0.02,2,0,60"}),
+    onMoth("moth-capacity-parabola", "no-control", {"--carrying-capacity", "parabola:10,600,45,10,60"}),
+    onMoth("moth-auto-et-capacity-parabola", "auto-et", {"--carrying-capacity", "parabola:5,60,45,0,60"}),
+    onMoth("moth-auto-et-linear-threshold", "auto-et", {"--et", "linear:5,.5"}),
 };
 
 INSTANTIATE_TEST_SUITE_P(Sessions, GoldenRun, ::testing::ValuesIn(kCases), [](const auto& param) {
