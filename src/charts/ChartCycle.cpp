@@ -65,7 +65,7 @@ constexpr std::array<ChartCycleEntry, kChartCycleLength> kMainCycle{{
     {ShowLogTotalDeathDuetoPredation, underPredation, kUnderPredation},
     // The extra-mortality strategy gets the log chart of predation deaths too.
     {ShowLogTotalDeathDuetoPredation, withExtraMortality,
-     "the strategy is extra mortality"},
+     "the strategy is extra mortality, which its driver sets back to no control before the charts"},
     {nullptr, nullptr},
 }};
 

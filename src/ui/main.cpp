@@ -17,6 +17,14 @@ const char* const kUsage = "Usage:\n"
                            "  vorlex-gui\n"
                            "      Opens the main form.\n";
 
+/// Without a display Qt warns of things that don't matter to pictures (no
+/// runtime folder of the user); the rest of what it says is passed on.
+void quietWithoutDisplay(QtMsgType type, const QMessageLogContext& context, const QString& message) {
+  if (type == QtWarningMsg && message.startsWith(QLatin1String("QStandardPaths: XDG_RUNTIME_DIR not set")))
+    return;
+  std::cerr << qPrintable(qFormatLogMessage(type, context, message)) << '\n';
+}
+
 } // namespace
 
 int main(int argc, char* argv[]) {
@@ -32,6 +40,7 @@ int main(int argc, char* argv[]) {
   if (vorlex::cli::asksToSaveCharts(args)) {
     // The charts are drawn without a window, with or without a display.
     qputenv("QT_QPA_PLATFORM", "offscreen");
+    qInstallMessageHandler(quietWithoutDisplay);
     QApplication app(argc, argv);
     QApplication::setApplicationName(QStringLiteral("Vorlex"));
     return vorlex::ui::saveChartsCommand(args, std::cout, std::cerr);
