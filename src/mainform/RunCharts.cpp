@@ -39,8 +39,8 @@ std::string chartFileName(const std::string& prefix, int number, const std::stri
   for (std::size_t i = 0; i < title.size(); ++i) {
     const char c = title[i];
     // A decimal point stays: 1234.5.
-    const bool point = c == '.' && !gap && i > 0 && isDigit(title[i - 1]) && i + 1 < title.size() &&
-                       isDigit(title[i + 1]);
+    const bool point =
+        c == '.' && !gap && i > 0 && isDigit(title[i - 1]) && i + 1 < title.size() && isDigit(title[i + 1]);
     if (keptInName(c) || point) {
       if (gap)
         name += '-';

@@ -53,7 +53,8 @@ int saveChartsCommand(std::vector<std::string> args, std::ostream& out, std::ost
     return 2;
   }
   try {
-    return cli::runCommand(args, out, err, [&](Session& session) { return saveCharts(session, options, out, err); });
+    return cli::runCommand(args, out, err,
+                           [&](Session& session) { return saveCharts(session, options, out, err); });
   } catch (const RuntimeError& error) {
     err << "vorlex-gui: " << error.what() << "\nLikely cause: " << error.likelyCause() << '\n';
     return 1;

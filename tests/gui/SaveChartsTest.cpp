@@ -60,8 +60,8 @@ private slots:
     QTemporaryDir dir;
     const QString data = vorlex::testing::copyOfExample(dir);
     const QString folder = dir.filePath(QStringLiteral("figures/moth"));
-    const Saved saved = saveCharts({"--save-charts", folder, "--size", "640x400", "--dpi", "192", data, "--date",
-                                    "2026-01-01"});
+    const Saved saved = saveCharts(
+        {"--save-charts", folder, "--size", "640x400", "--dpi", "192", data, "--date", "2026-01-01"});
     QCOMPARE(saved.status, 0);
     QCOMPARE(saved.err, QString());
     const QString golden = QStringLiteral(VORLEX_TEST_DATA_DIR "/moth-save-charts.expected");
@@ -136,15 +136,15 @@ private slots:
     QTest::newRow("dpi not whole") << QStringList{"--dpi", "300.5"} << "--dpi wants a whole number";
     QTest::newRow("dpi too high") << QStringList{"--dpi", "9600"} << "--dpi wants a whole number";
     QTest::newRow("dpi without value") << QStringList{"--dpi"} << "--dpi wants a value";
-    QTest::newRow("an option of no one") << QStringList{"--colour", "red"} << "unexpected argument '--colour'";
+    QTest::newRow("an option of no one")
+        << QStringList{"--colour", "red"} << "unexpected argument '--colour'";
   }
   void unusableCommandLinesSaveNothing() {
     QFETCH(QStringList, options);
     QFETCH(QString, said);
     QTemporaryDir dir;
     const QString data = vorlex::testing::copyOfExample(dir);
-    const Saved saved =
-        saveCharts(QStringList{"--save-charts", dir.filePath("charts"), data} + options);
+    const Saved saved = saveCharts(QStringList{"--save-charts", dir.filePath("charts"), data} + options);
     QCOMPARE(saved.status, 2);
     QVERIFY2(saved.err.contains(said), qPrintable(saved.err));
     QVERIFY(!QDir(dir.filePath("charts")).exists());

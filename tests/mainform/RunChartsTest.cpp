@@ -1,7 +1,7 @@
 // The charts of a run as a script saves them: which are drawn, which are
 // skipped and why, and the names of their files.
-#include "cli/RunCommand.h"
 #include "mainform/RunCharts.h"
+#include "cli/RunCommand.h"
 #include "support/RunFolder.h"
 #include "support/TestSession.h"
 
@@ -29,7 +29,8 @@ const NameCase kNames[] = {
     {"cycle", 5, "  Total size / weighed size  ", "cycle-05-Total-size-weighed-size"},
     {"large", 7, "Total population (T)= 1.5E+16. Vuln.", "large-07-Total-population-T-1.5E+16-Vuln"},
     // Cut at the last "-" within 80 characters.
-    {"cycle", 21, "Total consumption based on c(x,j) (Released at time 3). Release date 5, and more words here",
+    {"cycle", 21,
+     "Total consumption based on c(x,j) (Released at time 3). Release date 5, and more words here",
      "cycle-21-Total-consumption-based-on-c-x-j-Released-at-time-3-Release-date-5-and"},
 };
 
@@ -77,9 +78,12 @@ const RunCase kRuns[] = {
      "moth-cxj.txt",
      "no-control",
      20,
-     {"Attention=No", "Attention=Yes", "Add time to total predation data.=3", "Predator? Parasitoid? Pest?=moths"},
+     {"Attention=No", "Attention=Yes", "Add time to total predation data.=3",
+      "Predator? Parasitoid? Pest?=moths"},
      "cycle-00-Stage-size",
-     {{"cycle-31", kPredation}, {"cycle-32", kPredation}, {"cycle-33", "shown only when the strategy is extra"}}},
+     {{"cycle-31", kPredation},
+      {"cycle-32", kPredation},
+      {"cycle-33", "shown only when the strategy is extra"}}},
     // The driver of extra mortality runs it as no control and says so in
     // the strategy mark, so the entry kept for it never shows after a run.
     {"extra mortality: the entry kept for it stays hidden",
@@ -120,8 +124,8 @@ TEST(RunCharts, EveryChartOfTheCycleAndTheLargeGraphsIsDrawnOrSaysWhyNot) {
   for (const RunCase& c : kRuns) {
     SCOPED_TRACE(c.name);
     RunFolder folder("run-charts");
-    const std::string source = std::filesystem::exists(dataPath(c.dataFile)) ? dataPath(c.dataFile)
-                                                                             : examplePath(c.dataFile);
+    const std::string source =
+        std::filesystem::exists(dataPath(c.dataFile)) ? dataPath(c.dataFile) : examplePath(c.dataFile);
     std::vector<std::string> args{folder.copy(source, c.dataFile), "--strategy", c.strategy, "--sim-time",
                                   std::to_string(c.simTime)};
     for (const std::string& answer : c.answers)
