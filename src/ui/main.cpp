@@ -30,7 +30,8 @@ void quietWithoutDisplay(QtMsgType type, const QMessageLogContext& context, cons
 int main(int argc, char* argv[]) {
   const std::vector<std::string> args(argv + 1, argv + argc);
   if (!args.empty() && (args[0] == "--help" || args[0] == "-h")) {
-    std::cout << kUsage << vorlex::cli::kSaveChartsUsage;
+    std::cout << kUsage << vorlex::cli::kSaveChartsUsage
+              << "  vorlex-gui --version\n      Prints the version.\n";
     return 0;
   }
   if (!args.empty() && args[0] == "--version") {
