@@ -25,6 +25,9 @@ bool withExtraMortality(const Session& session) {
   return session.flags.OptManagement == "OptGrowthWithExtraMortality";
 }
 
+constexpr const char* kWithConsumption = "the data file holds consumption data C(x,j)";
+constexpr const char* kUnderPredation = "the strategy is population growth under predation";
+
 constexpr std::array<ChartCycleEntry, kChartCycleLength> kMainCycle{{
     {ShowStageStructure, nullptr}, // the late-release twin when ReleaseDate != 0
     {ShowLogStageStructure, nullptr},
@@ -43,12 +46,13 @@ constexpr std::array<ChartCycleEntry, kChartCycleLength> kMainCycle{{
     {ShowLx, nullptr},
     {ShowMx, nullptr},
     {ShowLxMx, nullptr},
-    {ShowTotalLogConsume, withConsumption},
-    {ShowTotalConsume, withConsumption},
-    {ShowTotalConsumeAndPopu, withConsumption},
-    {ShowTotalConsumeAndPopuInLog, withConsumption},
-    {ShowTotalConsumeAfterRelease, withConsumptionAfterLag},
-    {ShowTotalLogConsumeAfterRelease, withConsumption},
+    {ShowTotalLogConsume, withConsumption, kWithConsumption},
+    {ShowTotalConsume, withConsumption, kWithConsumption},
+    {ShowTotalConsumeAndPopu, withConsumption, kWithConsumption},
+    {ShowTotalConsumeAndPopuInLog, withConsumption, kWithConsumption},
+    {ShowTotalConsumeAfterRelease, withConsumptionAfterLag,
+     "the data file holds consumption data C(x,j) and the predation lag is other than 0 and 1"},
+    {ShowTotalLogConsumeAfterRelease, withConsumption, kWithConsumption},
     {ShowTotalDifference, nullptr},
     {ShowLogTotalDifference, nullptr},
     {ShowTotalDeath, nullptr},
@@ -57,10 +61,11 @@ constexpr std::array<ChartCycleEntry, kChartCycleLength> kMainCycle{{
     {ShowLogStageDeath, nullptr},
     {ShowCumuStageDeath, nullptr},
     {ShowLogCumuStageDeath, nullptr},
-    {ShowTotalDeathDuetoPredation, underPredation},
-    {ShowLogTotalDeathDuetoPredation, underPredation},
+    {ShowTotalDeathDuetoPredation, underPredation, kUnderPredation},
+    {ShowLogTotalDeathDuetoPredation, underPredation, kUnderPredation},
     // The extra-mortality strategy gets the log chart of predation deaths too.
-    {ShowLogTotalDeathDuetoPredation, withExtraMortality},
+    {ShowLogTotalDeathDuetoPredation, withExtraMortality,
+     "the strategy is extra mortality, which its driver sets back to no control before the charts"},
     {nullptr, nullptr},
 }};
 
@@ -97,18 +102,24 @@ ShowRoutine largeChartCycleEntry(int index) {
   return kLargeCycle[static_cast<std::size_t>(index)];
 }
 
+ShowRoutine chartCycleRoutine(const Session& session, int index) {
+  const ChartCycleEntry& entry = chartCycleEntry(index);
+  if (!entry.routine || (entry.condition && !entry.condition(session)))
+    return nullptr;
+  if (index == 0 && session.model().ReleaseDate != 0)
+    return ShowStageStructureLateRelease;
+  return entry.routine;
+}
+
 bool MSChart1_Activate(Session& session) {
   const int index = stepOn(session.ChartCycleIndex, kChartCycleLength);
   // A position put below 0 from elsewhere matches no entry, as 34 doesn't;
   // it climbs back to 0 one activation at a time.
   if (!inCycle(index, kChartCycleLength))
     return false;
-  const ChartCycleEntry& entry = chartCycleEntry(index);
-  if (!entry.routine || (entry.condition && !entry.condition(session)))
+  const ShowRoutine routine = chartCycleRoutine(session, index);
+  if (!routine)
     return false;
-  ShowRoutine routine = entry.routine;
-  if (index == 0 && session.model().ReleaseDate != 0)
-    routine = ShowStageStructureLateRelease;
   // A routine that stops leaves the chart as it was, and says which chart
   // of the cycle it was.
   try {

@@ -18,6 +18,9 @@ struct ChartCycleEntry {
   ShowRoutine routine;
   /// Whether the entry may show now; null when it always may.
   bool (*condition)(const Session&);
+  /// What the condition asks, in words ("the data file holds consumption
+  /// data C(x,j)"); null when there is none.
+  const char* shownWhen = nullptr;
 };
 
 /// The 35 entries of the main form's cycle, 0..34. Entry 0 stands for the
@@ -25,6 +28,11 @@ struct ChartCycleEntry {
 /// not 0.
 inline constexpr int kChartCycleLength = 35;
 const ChartCycleEntry& chartCycleEntry(int index);
+
+/// What entry `index` shows in this session: its routine, the late-release
+/// twin at 0 when ReleaseDate is not 0; null when the entry shows nothing
+/// now (the empty entry, or a condition that fails).
+ShowRoutine chartCycleRoutine(const Session& session, int index);
 
 /// The chart of the main form was activated: the position moves on by one
 /// (after 34 back to 0) and that entry runs. An entry whose condition fails,

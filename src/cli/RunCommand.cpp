@@ -72,7 +72,8 @@ const Strategy* findStrategy(const std::string& name) {
 
 } // namespace
 
-int runCommand(const std::vector<std::string>& args, std::ostream& out, std::ostream& err) {
+int runCommand(const std::vector<std::string>& args, std::ostream& out, std::ostream& err,
+               const AfterRun& afterRun) {
   RunOptions options;
   AnswerPrompter prompter(out);
   try {
@@ -168,7 +169,7 @@ int runCommand(const std::vector<std::string>& args, std::ostream& out, std::ost
     out << "  " << path << '\n';
   for (const std::string& title : prompter.unusedAnswers())
     err << "vorlex: warning: the answer for '" << title << "' was not asked for\n";
-  return 0;
+  return afterRun ? afterRun(session) : 0;
 }
 
 } // namespace vorlex::cli

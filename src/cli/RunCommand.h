@@ -1,16 +1,27 @@
 #pragma once
 
+#include <functional>
 #include <ostream>
 #include <string>
 #include <vector>
 
+namespace vorlex {
+class Session;
+}
+
 namespace vorlex::cli {
+
+/// What a program does with the session after the run, as the command
+/// line's run ends; returns the exit status.
+using AfterRun = std::function<int(Session& session)>;
 
 /// `vorlex run DATAFILE [--strategy S] [--sim-time N] [--answer 'TITLE=VALUE']...
 /// [--answers FILE] [--date TEXT]`: the clicks of a whole session on the main
 /// form, with every prompt answered from the command line. Returns the exit
-/// status; run-time errors are left to the caller.
-int runCommand(const std::vector<std::string>& args, std::ostream& out, std::ostream& err);
+/// status; run-time errors are left to the caller. After a run that ended
+/// normally, `afterRun` (when given) takes the session and gives the status.
+int runCommand(const std::vector<std::string>& args, std::ostream& out, std::ostream& err,
+               const AfterRun& afterRun = {});
 
 /// The help text of the run command.
 extern const char* const kRunUsage;
