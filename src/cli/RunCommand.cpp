@@ -17,9 +17,13 @@ const char* const kRunUsage =
     "      Runs a whole session: simulation time, load of DATAFILE, strategy, run.\n"
     "      Outputs go beside DATAFILE.\n"
     "      --strategy S   no-control (default), predefined, auto-et, harvest, lambda,\n"
-    "                     predation, extra-mortality; still to come:\n"
+    "                     predation, extra-mortality, after-sampling; still to come:\n"
     "                     optimize-first, optimize-interval\n"
     "      --sim-time N   simulation time (default 60)\n"
+    "      after-sampling clicks \"Project growth using N(j) at time t\" after the load\n"
+    "                     in place of a strategy and Run: the run without control\n"
+    "                     from one sampled count; answer 'Open\n"
+    "                     0A4_Stage2StageTime.txt=PATH' and 'Open sampling data file=PATH'.\n"
     "      --answer 'TITLE=VALUE'  answers the prompt of that title; a title asked\n"
     "                     several times takes its answers in order. Without one a\n"
     "                     value prompt takes its default, yes/no is No, a file\n"
@@ -29,9 +33,13 @@ const char* const kRunUsage =
 
 namespace {
 
+// The projection after sampling is a button, not an option of the strategy
+// frame.
+constexpr int kAfterSamplingButton = 0;
+
 struct Strategy {
   const char* name;
-  int option;
+  int option; // OptionN, or kAfterSamplingButton
   const char* words; // what the summary calls it
 };
 
@@ -45,6 +53,7 @@ constexpr Strategy kStrategies[] = {
     {"lambda", 7, "growth to lambda"},
     {"predation", 8, "population growth under predation"},
     {"extra-mortality", 9, "extra mortality"},
+    {"after-sampling", kAfterSamplingButton, "projection after sampling"},
 };
 
 struct RunOptions {
@@ -100,7 +109,8 @@ int runCommand(const std::vector<std::string>& args, std::ostream& out, std::ost
     err << "vorlex: unknown strategy '" << options.strategy << "'\nUsage:\n" << kRunUsage;
     return 2;
   }
-  const std::string optManagement = MainForm::optManagementOf(strategy->option);
+  const bool afterSampling = strategy->option == kAfterSamplingButton;
+  const std::string optManagement = afterSampling ? "OptNoControl" : MainForm::optManagementOf(strategy->option);
   if (!MainForm::hasDriver(optManagement)) {
     err << "vorlex: the strategy '" << strategy->name << "' (" << optManagement
         << ") is not available in this build yet; nothing was written.\n";
@@ -122,8 +132,14 @@ int runCommand(const std::vector<std::string>& args, std::ostream& out, std::ost
   try {
     form.Command2_Click();
     form.cmdInputLTdata_Click();
-    form.chooseOption(strategy->option);
-    form.cmdRun_Click();
+    // Settings a user makes on other forms after the load go here, ahead of
+    // either way of running.
+    if (afterSampling) {
+      form.cmdProjectionAfterSampling_Click();
+    } else {
+      form.chooseOption(strategy->option);
+      form.cmdRun_Click();
+    }
   } catch (const AnswerError& error) {
     session.files.closeAll();
     err << "vorlex: " << error.what() << '\n';

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "mainform/LargeGraphForm.h"
+#include "mainform/SamplingButtons.h"
 
 #include <ctime>
 #include <string>
@@ -66,6 +67,13 @@ public:
 
   LargeGraphForm& largeGraphs() { return largeGraphs_; }
 
+  /// Show sampling data, predict an emergence, project from a sample.
+  void cmdStageSamplingData_Click() { sampling_.cmdStageSamplingData_Click(); }
+  void cmdStageProjection_Click() { sampling_.cmdStageProjection_Click(); }
+  void cmdProjectionAfterSampling_Click() { sampling_.cmdProjectionAfterSampling_Click(); }
+  SamplingButtons& sampling() { return sampling_; }
+  const SamplingButtons& sampling() const { return sampling_; }
+
   /// Whether this build has the driver that cmdRun runs for a strategy
   /// value of OptManagement.
   static bool hasDriver(const std::string& optManagement);
@@ -89,6 +97,7 @@ private:
 
   Session& session_;
   LargeGraphForm largeGraphs_;
+  SamplingButtons sampling_;
 };
 
 } // namespace vorlex
