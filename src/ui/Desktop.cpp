@@ -39,6 +39,9 @@ const std::map<QString, Handler>& mainHandlers() {
       {"Command9", &MainForm::Command9_Click},   {"Command14", &MainForm::Command14_Click},
       {"Command15", &MainForm::Command15_Click}, {"cmdHowToPrint", &MainForm::cmdHowToPrint_Click},
       {"Command4", &MainForm::Command4_Click},
+      {"cmdStageSamplingData", &MainForm::cmdStageSamplingData_Click},
+      {"cmdStageProjection", &MainForm::cmdStageProjection_Click},
+      {"cmdProjectionAfterSampling", &MainForm::cmdProjectionAfterSampling_Click},
   };
   return kHandlers;
 }
@@ -79,6 +82,8 @@ Desktop::Desktop(Prompter& prompter)
   auto chooseFile = [this](const std::string& title) { return session_->prompter().chooseFileToSave(title); };
   for (ChartView* view : {main->mainChart(), main->samplingChart(), large->chart()})
     view->chooseFileToSave = chooseFile;
+  main->samplingChart()->addMenuAction(tr("Show as points"),
+                                       [this] { handle([this] { form_->sampling().showAsPoints(); }); });
 
   buildOtherForms();
 
@@ -140,7 +145,7 @@ void Desktop::clickMain(const QString& control) {
   if (found == mainHandlers().end())
     return;
   const Handler handler = found->second;
-  const bool run = control == QLatin1String("cmdRun");
+  const bool run = control == QLatin1String("cmdRun") || control == QLatin1String("cmdProjectionAfterSampling");
   handle([this, handler, run] {
     // A run blocks the form until it ends; the cursor says so.
     if (run)
@@ -217,6 +222,9 @@ void Desktop::showCharts() {
   ChartView* main = mainWindow_->mainChart();
   if (main->content() != session_->mainChart)
     main->showContent(session_->mainChart);
+  ChartView* sampling = mainWindow_->samplingChart();
+  if (sampling->content() != form_->sampling().chart())
+    sampling->showContent(form_->sampling().chart());
   ChartView* large = largeGraphWindow_->chart();
   if (large->content() != session_->largeChart)
     large->showContent(session_->largeChart);
