@@ -39,6 +39,8 @@ public:
   /// Adds an entry of the chart's own to the right-click menu, below the
   /// saving ones.
   void addMenuAction(const QString& text, std::function<void()> action);
+  /// The chart's own entries of the menu, in their order.
+  const std::vector<std::pair<QString, std::function<void()>>>& menuActions() const { return menuActions_; }
 
   enum class Picture { Png, Svg };
   /// Asks for a file name and saves the chart there; ".png" or ".svg" is
