@@ -40,7 +40,7 @@ constexpr int kAfterSamplingButton = 0;
 
 struct Strategy {
   const char* name;
-  int option; // OptionN, or kAfterSamplingButton
+  int option;        // OptionN, or kAfterSamplingButton
   const char* words; // what the summary calls it
 };
 
@@ -111,7 +111,8 @@ int runCommand(const std::vector<std::string>& args, std::ostream& out, std::ost
     return 2;
   }
   const bool afterSampling = strategy->option == kAfterSamplingButton;
-  const std::string optManagement = afterSampling ? "OptNoControl" : MainForm::optManagementOf(strategy->option);
+  const std::string optManagement =
+      afterSampling ? "OptNoControl" : MainForm::optManagementOf(strategy->option);
   if (!MainForm::hasDriver(optManagement)) {
     err << "vorlex: the strategy '" << strategy->name << "' (" << optManagement
         << ") is not available in this build yet; nothing was written.\n";

@@ -33,8 +33,8 @@ struct Options {
 };
 
 // Reads the arguments; false (with the usage on err) when they don't fit.
-bool parse(const std::vector<std::string>& args, AnswerPrompter& prompter, Options& options, const char* usage,
-           std::ostream& out, std::ostream& err, int& status) {
+bool parse(const std::vector<std::string>& args, AnswerPrompter& prompter, Options& options,
+           const char* usage, std::ostream& out, std::ostream& err, int& status) {
   try {
     for (std::size_t i = 0; i < args.size(); ++i) {
       const std::string& arg = args[i];

@@ -147,8 +147,7 @@ ChartContent predictEmergence(Session& session, SamplingTables& t) {
   // another day predicts a size of 0.
   t.NrSampleSeries = 2;
   t.SampleSeriesName(2) = m.StageName(t.PredictStage);
-  t.PredictDay =
-      toInt16(roundHalfEven(t.SampleBaseDay + t.StageToStageTime(t.SampledStage, t.PredictStage)));
+  t.PredictDay = toInt16(roundHalfEven(t.SampleBaseDay + t.StageToStageTime(t.SampledStage, t.PredictStage)));
   t.PredictSize =
       t.SampleCount(t.SampleBaseDay, t.SampledStage) * t.StageToStageRatio(t.SampledStage, t.PredictStage);
   t.SampleSeries(t.SampleBaseDay, 1) = t.SampleCount(t.SampleBaseDay, t.SampledStage);

@@ -13,8 +13,8 @@ struct CommandCase {
   const char* name;
   std::string arguments; // EX/ names a file of examples, DATA/ of tests/data
   int status;
-  std::string out;       // the whole standard output, or a golden file's name when it ends in .expected
-  std::string errHas;    // a part of the error stream
+  std::string out;    // the whole standard output, or a golden file's name when it ends in .expected
+  std::string errHas; // a part of the error stream
 };
 
 std::string withPaths(std::string text) {
@@ -30,26 +30,22 @@ const std::string kCount = " --answer 'Open sampling data file=EX/moth-larva-cou
 
 const CommandCase kCases[] = {
     {"moths from forty larvae",
-     "predict MOTH" + kTimes + kCount + " --answer 'Which stage is to be predicted?=4'",
-     0,
+     "predict MOTH" + kTimes + kCount + " --answer 'Which stage is to be predicted?=4'", 0,
      "Predicted emergence: stage 4 (Fema) on day 21, size 10.908\n",
      "[Which stage is to be predicted?] You have sampled the field data of Larv. It is stage2. => 4\n"},
     {"pupae by default", "predict MOTH" + kTimes + kCount, 0,
      "Predicted emergence: stage 3 (Pupa) on day 14, size 25.14\n", "=> 3 (default)"},
     {"a stage above the last with no further answer",
-     "predict MOTH" + kTimes + kCount + " --answer 'Which stage is to be predicted?=7'",
-     2,
-     "",
+     "predict MOTH" + kTimes + kCount + " --answer 'Which stage is to be predicted?=7'", 2, "",
      "vorlex: the stage to predict, '7', is above the number of stages of the life table, and no further "
      "answer to 'Which stage is to be predicted?' was given\n"},
     {"the prediction takes one record",
-     "predict MOTH" + kTimes + " --answer 'Open sampling data file=DATA/sample-two-records.txt'",
-     1,
-     "",
+     "predict MOTH" + kTimes + " --answer 'Open sampling data file=DATA/sample-two-records.txt'", 1, "",
      "The sampling file has 2 records; a prediction takes exactly one."},
     {"predict needs a data file", "predict", 2, "", "no data file given"},
-    {"field counts of the example", "sampling MOTH --answer 'Open sampling data file=EX/moth-field-counts.txt'",
-     0, "sampling-moth-field-counts.expected", "[Open sampling data file]"},
+    {"field counts of the example",
+     "sampling MOTH --answer 'Open sampling data file=EX/moth-field-counts.txt'", 0,
+     "sampling-moth-field-counts.expected", "[Open sampling data file]"},
     {"demonstration stages without a life table",
      "sampling --answer 'Open sampling data file=EX/moth-field-counts.txt'", 0,
      "sampling-demonstration.expected", ""},

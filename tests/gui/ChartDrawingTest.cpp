@@ -52,8 +52,9 @@ private slots:
   void marksWithoutLinesAreScatteredCirclesOnAWhitePlot() {
     ChartContent content = eggAndLarva();
     content.plotBackground = vorlex::ChartColour{255, 255, 255};
-    content.looks[1] = vorlex::SeriesLook{
-        vorlex::PenStyle::None, vorlex::SeriesMarker{vorlex::MarkerStyle::FilledCircle, {255, 0, 0}, {}, 10, 200}};
+    content.looks[1] =
+        vorlex::SeriesLook{vorlex::PenStyle::None,
+                           vorlex::SeriesMarker{vorlex::MarkerStyle::FilledCircle, {255, 0, 0}, {}, 10, 200}};
     content.looks[3] = content.looks[1]; // no third series: nothing to draw
     std::unique_ptr<QChart> chart(vorlex::ui::buildChart(content));
     QCOMPARE(chart->series().size(), 2);

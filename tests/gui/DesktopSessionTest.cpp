@@ -23,8 +23,8 @@
 #include <QPrinter>
 #include <QProcess>
 #include <QRadioButton>
-#include <QScrollArea>
 #include <QScatterSeries>
+#include <QScrollArea>
 #include <QScrollBar>
 #include <QtTest>
 
@@ -242,8 +242,9 @@ private slots:
     QCOMPARE(sampling->chart()->series().first()->name(), QStringLiteral("Larv"));
 
     // Its menu shows the records as marks.
-    const auto points = std::find_if(sampling->menuActions().begin(), sampling->menuActions().end(),
-                                     [](const auto& entry) { return entry.first == QStringLiteral("Show as points"); });
+    const auto points =
+        std::find_if(sampling->menuActions().begin(), sampling->menuActions().end(),
+                     [](const auto& entry) { return entry.first == QStringLiteral("Show as points"); });
     QVERIFY(points != sampling->menuActions().end());
     points->second();
     QCOMPARE(sampling->chart()->title(), QStringLiteral("Sampling data"));
@@ -256,7 +257,8 @@ private slots:
     QCOMPARE(females->name(), QStringLiteral("Fema"));
     QCOMPARE(females->at(21).y(), 10.908);
     QApplication::processEvents();
-    QVERIFY(s.desktop.mainWindow().grab().save(testing::screenshotPath(QStringLiteral("mainform-prediction.png"))));
+    QVERIFY(s.desktop.mainWindow().grab().save(
+        testing::screenshotPath(QStringLiteral("mainform-prediction.png"))));
 
     // The projection from the same count shows the run's stage chart too.
     s.click("cmdProjectionAfterSampling");

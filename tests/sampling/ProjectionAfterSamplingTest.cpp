@@ -40,13 +40,16 @@ TEST_F(SamplingFixture, EmptyStartsStopAtDayZero) {
     ScriptedPrompts answers;
     Session s(answers);
     MainForm f(s);
-    answers.answer(std::string(MainForm::kDataFileDialogTitle) + "=" + own.copy(examplePath("moth.txt"), "moth.txt"));
+    answers.answer(std::string(MainForm::kDataFileDialogTitle) + "=" +
+                   own.copy(examplePath("moth.txt"), "moth.txt"));
     f.Form_Load();
     f.Command2_Click();
     f.cmdInputLTdata_Click();
     if (!cancelled) {
-      answers.answer(std::string(kStageTimeFileDialogTitle) + "=" + own.copy(dataPath("stage-times-five.txt"), "t.txt"));
-      answers.answer(std::string(kSamplingFileDialogTitle) + "=" + own.copy(dataPath("sample-larvae-day5.txt"), "s.txt"));
+      answers.answer(std::string(kStageTimeFileDialogTitle) + "=" +
+                     own.copy(dataPath("stage-times-five.txt"), "t.txt"));
+      answers.answer(std::string(kSamplingFileDialogTitle) + "=" +
+                     own.copy(dataPath("sample-larvae-day5.txt"), "s.txt"));
     }
     const RuntimeError error = errorOf([&] { f.cmdProjectionAfterSampling_Click(); });
     EXPECT_EQ(error.code(), ErrorCode::Overflow);

@@ -40,7 +40,7 @@ TEST_F(SamplingFixture, DayZeroOfAnEarlierFileStaysOnTheChart) {
   answer(kSamplingFileDialogTitle, sample("second.txt", {"1,7,a,2,3", "0,0,a,0,0"}));
   form.cmdStageSamplingData_Click();
   EXPECT_EQ(chart().rowCount(), 21);
-  EXPECT_EQ(chart().y(1, 1), 5);  // day 0 is not cleared
+  EXPECT_EQ(chart().y(1, 1), 5); // day 0 is not cleared
   EXPECT_EQ(chart().y(1, 8), 3);
   EXPECT_EQ(tables().SampleCount(150, 2), 9); // nor are the days above 100
 }

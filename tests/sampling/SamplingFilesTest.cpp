@@ -34,7 +34,8 @@ TEST(StageTimeFile, PairsFollowTheirOrderAndAdultsStartNone) {
 TEST(StageTimeFile, ACutShortFileStopsAtItsEnd) {
   SamplingTables t;
   const std::string whole = fileText(dataPath("stage-times-five.txt"));
-  const auto code = errorOf([&] { readStageTimesText(whole.substr(0, whole.rfind("\"Pupa\",\"Male\"")), 5, t); });
+  const auto code =
+      errorOf([&] { readStageTimesText(whole.substr(0, whole.rfind("\"Pupa\",\"Male\"")), 5, t); });
   EXPECT_EQ(code.code(), ErrorCode::InputPastEndOfFile);
 }
 
@@ -49,8 +50,8 @@ struct RecordCase {
   const char* records; // after the two heading lines
   int nrSample;
   int sampledStage;
-  std::vector<Count> counts;     // cells that hold a count
-  std::vector<int> stagesUsed;   // stages marked "Yes"
+  std::vector<Count> counts;      // cells that hold a count
+  std::vector<int> stagesUsed;    // stages marked "Yes"
   ErrorCode error = ErrorCode{0}; // 0: reads to its end record
 };
 
@@ -77,11 +78,36 @@ const RecordCase kRecordCases[] = {
      1,
      {{3, 1, 5}},
      {1, 2}},
-    {"negative stage ends three items", SampleRecordForm::ThreeItems, "0,1,40\r\n9,-1,9\r\n", 1, 1, {{0, 1, 40}}, {1}},
-    {"stage 13", SampleRecordForm::ThreeItems, "0,13,4\r\n0,0,0\r\n", 0, 0, {}, {}, ErrorCode::SubscriptOutOfRange},
-    {"day 1006", SampleRecordForm::FiveItems, "1,1006,a,2,4\r\n0,0,a,0,0\r\n", 1, 2, {}, {2},
+    {"negative stage ends three items",
+     SampleRecordForm::ThreeItems,
+     "0,1,40\r\n9,-1,9\r\n",
+     1,
+     1,
+     {{0, 1, 40}},
+     {1}},
+    {"stage 13",
+     SampleRecordForm::ThreeItems,
+     "0,13,4\r\n0,0,0\r\n",
+     0,
+     0,
+     {},
+     {},
      ErrorCode::SubscriptOutOfRange},
-    {"no end record in three items", SampleRecordForm::ThreeItems, "0,1,40\r\n", 1, 1, {{0, 1, 40}}, {1},
+    {"day 1006",
+     SampleRecordForm::FiveItems,
+     "1,1006,a,2,4\r\n0,0,a,0,0\r\n",
+     1,
+     2,
+     {},
+     {2},
+     ErrorCode::SubscriptOutOfRange},
+    {"no end record in three items",
+     SampleRecordForm::ThreeItems,
+     "0,1,40\r\n",
+     1,
+     1,
+     {{0, 1, 40}},
+     {1},
      ErrorCode::InputPastEndOfFile},
 };
 
@@ -92,7 +118,8 @@ TEST_P(SampleRecords, FillTheTablesAsRead) {
   SamplingTables t;
   const std::string text = std::string("\"description\"\r\n\"heading\"\r\n") + c.records;
   const RuntimeError error = errorOf([&] { readSamplingText(text, c.form, t); });
-  EXPECT_EQ(error.code(), c.error == ErrorCode{0} ? ErrorCode::InvalidProcedureCall : c.error) << error.what();
+  EXPECT_EQ(error.code(), c.error == ErrorCode{0} ? ErrorCode::InvalidProcedureCall : c.error)
+      << error.what();
   EXPECT_EQ(t.NrSample, c.nrSample);
   EXPECT_EQ(t.SampledStage, c.sampledStage);
   double total = 0;
@@ -111,14 +138,13 @@ TEST_P(SampleRecords, FillTheTablesAsRead) {
   }
 }
 
-INSTANTIATE_TEST_SUITE_P(Cases, SampleRecords, ::testing::ValuesIn(kRecordCases),
-                         [](const auto& param) {
-                           std::string name = param.param.name;
-                           for (char& c : name)
-                             if (!std::isalnum(static_cast<unsigned char>(c)))
-                               c = '_';
-                           return name;
-                         });
+INSTANTIATE_TEST_SUITE_P(Cases, SampleRecords, ::testing::ValuesIn(kRecordCases), [](const auto& param) {
+  std::string name = param.param.name;
+  for (char& c : name)
+    if (!std::isalnum(static_cast<unsigned char>(c)))
+      c = '_';
+  return name;
+});
 
 TEST(SampleRecords, TheHundredAndFirstRecordIsOutOfRange) {
   std::string text = "\"d\"\r\n\"h\"\r\n";

@@ -43,7 +43,9 @@ protected:
     return folder.path(name);
   }
   /// The stage-to-stage file of tests/data with five stages.
-  std::string stageTimes() { return folder.copy(dataPath("stage-times-five.txt"), "0A4_Stage2StageTime.txt"); }
+  std::string stageTimes() {
+    return folder.copy(dataPath("stage-times-five.txt"), "0A4_Stage2StageTime.txt");
+  }
 
   /// The clicks up to a loaded life table: the example moth (five stages,
   /// ages 0..45) with a simulation time of 20.

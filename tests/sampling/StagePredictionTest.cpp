@@ -108,8 +108,8 @@ TEST_F(SamplingFixture, FailureNamesTheButtonAndTheFileBeingRead) {
   chooseFiles(sample("sample.txt", {"0,14,25", "0,0,0"}));
   const RuntimeError error = errorOf([&] { form.cmdStageProjection_Click(); });
   EXPECT_EQ(error.code(), ErrorCode::SubscriptOutOfRange);
-  EXPECT_NE(error.where().find("\"Predict emergence of y stage\", file being read: " + folder.path("sample.txt") +
-                               ", item 5, line 3"),
+  EXPECT_NE(error.where().find("\"Predict emergence of y stage\", file being read: " +
+                               folder.path("sample.txt") + ", item 5, line 3"),
             std::string::npos)
       << error.where();
 }
