@@ -14,6 +14,14 @@ reached from the last immature stage.
               small share of males, every stage open to the lady beetle
               (aphid.txt)
 
+For the moth the script also writes the files of the sampling buttons:
+moth-0A4_Stage2StageTime.txt, the mean age at which a newborn cohort
+enters each stage and, for each pair of stages, the mean time from the one
+to the other and the ratio of their numbers; moth-larva-count.txt, one
+field count of larvae (day, stage, count) to predict from and to project
+from; and moth-field-counts.txt, weekly counts of larvae and moths in the
+five-item form that the sampling chart reads.
+
 The lady beetle and the aphid make a pair: a run of the beetle with its
 consumption data writes the total predation of each day (the 10X file, with
 the days before the release as a lag), and a run of the aphid under
@@ -155,6 +163,11 @@ MOTH = Example(
     weak_factors=[("Parasitoid or predator", [0, 1, 1, 1, 1]),
                   ("Rainfall", [0, 0.5, 0.5, 0.5, 0.5])],
     control_mortality=[0, 0.9, 0.9, 0.9, 0.9],
+    # the field worker's count: 40 larvae on the day of sampling
+    larva_count=40,
+    # weekly counts (day, stage, count) of a field, larvae and moths
+    field_counts=[(0, 2, 40), (7, 2, 36), (14, 2, 22), (21, 2, 6),
+                  (21, 4, 9), (28, 4, 12), (35, 4, 7), (42, 4, 2)],
 )
 
 
@@ -863,6 +876,83 @@ def read_back(ex, path):
 
 # ---------------------------------------------------------------------------
 
+# ---------------------------------------------------------------------------
+# Stage-to-stage times and sampling files
+# ---------------------------------------------------------------------------
+
+TIME_SCALE = 100          # stage entry ages and times: two decimals
+RATIO_SCALE = 10000       # ratios of numbers: four decimals
+
+
+def stage_entries(ex, develop, lxj):
+    """Per stage the number of a newborn cohort (l(0,1) = 1) that ever
+    enters it and their mean age of entry: newborns enter stage 1 at age 0,
+    stage j > 1 at age x with d(x-1, j-1) l(x-1, j-1); the male comes out
+    of the last immature stage through the extra develop column."""
+    numbers, ages = {1: 1.0}, {1: 0.0}
+    for stage in range(2, ex.nr_stage + 1):
+        source = ex.last_immature if stage == ex.male else stage - 1
+        column = ex.female if stage == ex.male else stage - 1
+        entering = [develop[age - 1][column] * lxj[age - 1][source]
+                    for age in range(1, ex.last_age + 1)]
+        number = sum(entering)
+        numbers[stage] = number
+        ages[stage] = sum((age + 1) * n for age, n in enumerate(entering)) / number
+    return numbers, ages
+
+
+def stage_pairs(ex):
+    """The pairs in the order of the file: i = 1..m-3 with j = i+1..m, then
+    the last immature stage with the two adult stages."""
+    m = ex.nr_stage
+    pairs = [(i, j) for i in range(1, m - 2) for j in range(i + 1, m + 1)]
+    return pairs + [(m - 2, m - 1), (m - 2, m)]
+
+
+def stage_time_lines(ex, numbers, ages):
+    entry = {stage: quantise(ages[stage], TIME_SCALE) for stage in ages}
+    lines = [item("%s: mean age of entry into each stage, then the mean time "
+                  "from stage to stage and the ratio of their numbers, for a "
+                  "cohort of newborn eggs" % ex.project[0])]
+    for stage in range(1, ex.nr_stage + 1):
+        lines.append(write_line(ex.stage_name(stage), entry[stage]))
+    lines.append(item("From stage, to stage, time, ratio"))
+    for i, j in stage_pairs(ex):
+        lines.append(write_line(ex.stage_name(i), ex.stage_name(j),
+                                quantise(entry[j] - entry[i], TIME_SCALE),
+                                quantise(numbers[j] / numbers[i], RATIO_SCALE)))
+    return lines
+
+
+def build_sampling(ex, folder, develop, lxj):
+    """Write the moth's stage-to-stage file and its two sampling files."""
+    numbers, ages = stage_entries(ex, develop, lxj)
+    files = {
+        "moth-0A4_Stage2StageTime.txt": stage_time_lines(ex, numbers, ages),
+        # three-item records: day, stage, count; then the end record
+        "moth-larva-count.txt": [
+            item("Moth demonstration: larvae counted in the field"),
+            item("Day, stage, count"),
+            write_line(0, 2, ex.larva_count),
+            write_line(0, 0, 0)],
+        # five-item records: field, day, place, stage, count; then a record
+        # of field 0 and count 0, the last line
+        "moth-field-counts.txt": [
+            item("Moth demonstration: weekly counts of larvae and moths"),
+            item("Field, day, place, stage, count")]
+        + [write_line(1, day, "North edge", stage, count)
+           for day, stage, count in ex.field_counts]
+        + [write_line(0, 0, "", 0, 0)],
+    }
+    for name, lines in files.items():
+        with open(folder / name, "w", encoding="ascii", newline="") as handle:
+            handle.write("".join(line + "\r\n" for line in lines))
+        print("  wrote %s (%d lines)" % (folder / name, len(lines)))
+    for stage in range(1, ex.nr_stage + 1):
+        print("  %-4s entered by %.4f of the cohort at mean age %.2f"
+              % (ex.stage_name(stage), numbers[stage], ages[stage]))
+
+
 def build(ex, folder):
     """Write the example's data file into folder, check it, report it."""
     path = folder / ex.file_name
@@ -901,6 +991,8 @@ def build(ex, folder):
                   % (ex.stage_name(stage), mean))
         print("  lifetime consumption of a newborn = %.1f" % newborn)
     print("  wrote %s (%d lines)" % (path, len(lines)))
+    if hasattr(ex, "larva_count"):
+        build_sampling(ex, folder, develop, stats["lxj"])
 
 
 def main():

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <cstdint>
+#include <map>
 #include <optional>
 #include <string>
 #include <vector>
@@ -16,6 +17,7 @@ enum class LegendLocation : int { Right = 4 };
 enum class AxisScale : int { Linear = 0 };
 enum class TickStyle : int { Outside = 3 };
 enum class PenStyle : int { None = 0, Solid = 1 };
+enum class MarkerStyle : int { FilledCircle = 10 };
 
 struct ChartFont {
   std::string name = "Arial";
@@ -42,7 +44,28 @@ struct ChartAxis {
   ChartColour majorGridColour;
   /// Whether the component chooses the grid colour itself.
   bool automaticGridColour = true;
+  /// The title reads across rather than along the axis.
+  bool titleHorizontal = false;
   friend bool operator==(const ChartAxis&, const ChartAxis&) = default;
+};
+
+/// A mark drawn at each point of a series; sizes and pen widths in twips
+/// (1/1440 inch), as chart controls give them.
+struct SeriesMarker {
+  MarkerStyle style = MarkerStyle::FilledCircle;
+  ChartColour fill;
+  ChartColour pen;
+  double penWidth = 0;
+  double size = 0;
+  friend bool operator==(const SeriesMarker&, const SeriesMarker&) = default;
+};
+
+/// How one series is drawn when it is not a plain line in the component's
+/// own colour.
+struct SeriesLook {
+  PenStyle line = PenStyle::Solid;
+  std::optional<SeriesMarker> marker;
+  friend bool operator==(const SeriesLook&, const SeriesLook&) = default;
 };
 
 /// A line chart of x-y series. Series n (from 1) has its x values in column
@@ -57,6 +80,11 @@ public:
   bool uniformAxis = false;
   ChartAxis xAxis;
   ChartAxis yAxis;
+  /// A solid fill of the plot area; the component's own when empty.
+  std::optional<ChartColour> plotBackground;
+  /// Looks of series by number (from 1); a series not named is a plain
+  /// line, and a look of a series the chart does not have draws nothing.
+  std::map<int, SeriesLook> looks;
 
   /// Makes room for the series and rows, all values 0 and labels empty.
   /// A count below 0 stops with Invalid procedure call.

@@ -46,6 +46,11 @@ void AnswerPrompter::answerFirst(const std::string& title, const std::string& va
   answers_[title].push_front(value);
 }
 
+bool AnswerPrompter::hasAnswerFor(const std::string& title) const {
+  const auto found = answers_.find(title);
+  return found != answers_.end() && !found->second.empty();
+}
+
 std::vector<std::string> AnswerPrompter::unusedAnswers() const {
   std::vector<std::string> unused;
   for (const auto& [title, values] : answers_)

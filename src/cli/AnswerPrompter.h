@@ -35,6 +35,8 @@ public:
   void addAnswersFromFile(const std::string& path);
   /// Puts an answer ahead of those given for the same title.
   void answerFirst(const std::string& title, const std::string& value);
+  /// Whether an answer for a title is still waiting to be used.
+  bool hasAnswerFor(const std::string& title) const;
   /// Titles given answers that were never asked, one entry per answer left.
   std::vector<std::string> unusedAnswers() const;
 

@@ -19,8 +19,13 @@ const char* const kRunUsage =
     "      Runs a whole session: simulation time, load of DATAFILE, strategy, run.\n"
     "      Outputs go beside DATAFILE.\n"
     "      --strategy S   no-control (default), predefined, auto-et, harvest, lambda,\n"
-    "                     predation, extra-mortality; still to come:\n"
+    "                     predation, extra-mortality, after-sampling; still to come:\n"
     "                     optimize-first, optimize-interval\n"
+    "                     after-sampling clicks \"Project growth using N(j) at time t\"\n"
+    "                     after the load instead of a strategy and Run: the run\n"
+    "                     without control from one sampled count; answer\n"
+    "                     'Open 0A4_Stage2StageTime.txt=PATH' and\n"
+    "                     'Open sampling data file=PATH'\n"
     "      --sim-time N   simulation time (default 60)\n"
     "      --answer 'TITLE=VALUE'  answers the prompt of that title; a title asked\n"
     "                     several times takes its answers in order. Without one a\n"
@@ -37,9 +42,13 @@ const char* const kRunUsage =
 
 namespace {
 
+// The projection after sampling is a button, not an option of the strategy
+// frame.
+constexpr int kAfterSamplingButton = 0;
+
 struct Strategy {
   const char* name;
-  int option;
+  int option;        // OptionN, or kAfterSamplingButton
   const char* words; // what the summary calls it
 };
 
@@ -53,6 +62,7 @@ constexpr Strategy kStrategies[] = {
     {"lambda", 7, "growth to lambda"},
     {"predation", 8, "population growth under predation"},
     {"extra-mortality", 9, "extra mortality"},
+    {"after-sampling", kAfterSamplingButton, "projection after sampling"},
 };
 
 struct RunOptions {
@@ -118,7 +128,9 @@ int runCommand(const std::vector<std::string>& args, std::ostream& out, std::ost
     err << "vorlex: unknown strategy '" << options.strategy << "'\nUsage:\n" << kRunUsage;
     return 2;
   }
-  const std::string optManagement = MainForm::optManagementOf(strategy->option);
+  const bool afterSampling = strategy->option == kAfterSamplingButton;
+  const std::string optManagement =
+      afterSampling ? "OptNoControl" : MainForm::optManagementOf(strategy->option);
   if (!MainForm::hasDriver(optManagement)) {
     err << "vorlex: the strategy '" << strategy->name << "' (" << optManagement
         << ") is not available in this build yet; nothing was written.\n";
@@ -142,10 +154,16 @@ int runCommand(const std::vector<std::string>& args, std::ostream& out, std::ost
     form.cmdInputLTdata_Click();
     if (options.et)
       applyEtEquation(form, *options.et);
-    form.chooseOption(strategy->option);
-    if (options.capacity)
-      applyCarryingCapacity(form, *options.capacity);
-    form.cmdRun_Click();
+    if (afterSampling) {
+      if (options.capacity)
+        applyCarryingCapacity(form, *options.capacity);
+      form.cmdProjectionAfterSampling_Click();
+    } else {
+      form.chooseOption(strategy->option);
+      if (options.capacity)
+        applyCarryingCapacity(form, *options.capacity);
+      form.cmdRun_Click();
+    }
   } catch (const FormScriptError& error) {
     session.files.closeAll();
     err << "vorlex: " << error.what() << '\n';

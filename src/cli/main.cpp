@@ -3,6 +3,7 @@
 #include "cli/DataFileCheck.h"
 #include "cli/InfoCommand.h"
 #include "cli/RunCommand.h"
+#include "cli/SamplingCommands.h"
 #include "datafile/DataFileReader.h"
 #include "model/Session.h"
 #include "textio/NumberForms.h"
@@ -23,6 +24,7 @@ const char* const kInfoUsage =
 
 const std::string kUsage = std::string("Usage:\n") + vorlex::cli::kRunUsage + kInfoUsage +
                            vorlex::cli::kCheckUsage +
+                           vorlex::cli::kSamplingUsage + vorlex::cli::kPredictUsage +
                            "  vorlex --version\n"
                            "      Prints the version.\n"
                            "Each command's --help prints its own usage.\n";
@@ -87,6 +89,10 @@ int main(int argc, char** argv) {
   try {
     if (args[0] == "run")
       return vorlex::cli::runCommand({args.begin() + 1, args.end()}, std::cout, std::cerr);
+    if (args[0] == "sampling")
+      return vorlex::cli::samplingCommand({args.begin() + 1, args.end()}, std::cout, std::cerr);
+    if (args[0] == "predict")
+      return vorlex::cli::predictCommand({args.begin() + 1, args.end()}, std::cout, std::cerr);
     if (args[0] == "info")
       return runInfo({args.begin() + 1, args.end()});
     if (args[0] == "check")

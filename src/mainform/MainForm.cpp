@@ -114,7 +114,7 @@ std::string withoutLastFour(const std::string& path) {
 } // namespace
 
 MainForm::MainForm(Session& session)
-    : session_(session), largeGraphs_(session), carryForm_(session), etAtForm_(session) {
+    : session_(session), largeGraphs_(session), carryForm_(session), etAtForm_(session), sampling_(session) {
   for (const ControlSetup& setup : kCreated)
     session_.controls[setup.name] = ControlState{setup.enabled, setup.visible, setup.caption, setup.hint};
   // The main form shows from the start; every other form waits for its

@@ -3,6 +3,7 @@
 #include "mainform/CarryForm.h"
 #include "mainform/EtAtForm.h"
 #include "mainform/LargeGraphForm.h"
+#include "mainform/SamplingButtons.h"
 
 #include <ctime>
 #include <string>
@@ -86,6 +87,13 @@ public:
   EtAtForm& threshold() { return etAtForm_; }
   const EtAtForm& threshold() const { return etAtForm_; }
 
+  /// Show sampling data, predict an emergence, project from a sample.
+  void cmdStageSamplingData_Click() { sampling_.cmdStageSamplingData_Click(); }
+  void cmdStageProjection_Click() { sampling_.cmdStageProjection_Click(); }
+  void cmdProjectionAfterSampling_Click() { sampling_.cmdProjectionAfterSampling_Click(); }
+  SamplingButtons& sampling() { return sampling_; }
+  const SamplingButtons& sampling() const { return sampling_; }
+
   /// Whether this build has the driver that cmdRun runs for a strategy
   /// value of OptManagement.
   static bool hasDriver(const std::string& optManagement);
@@ -120,6 +128,7 @@ private:
   LargeGraphForm largeGraphs_;
   CarryForm carryForm_;
   EtAtForm etAtForm_;
+  SamplingButtons sampling_;
 };
 
 } // namespace vorlex

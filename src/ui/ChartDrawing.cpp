@@ -3,6 +3,7 @@
 #include <QChart>
 #include <QLegend>
 #include <QLineSeries>
+#include <QScatterSeries>
 #include <QValueAxis>
 
 #include <algorithm>
@@ -28,6 +29,35 @@ struct Span {
     high = std::max(high, value);
   }
 };
+
+// Twips (1/1440 inch) on a screen of 96 dots an inch.
+qreal pixels(double twips) { return twips / 15.0; }
+
+// A series drawn its own way: marks alone when it has no line, else a line
+// whose points carry the marks.
+QXYSeries* seriesOf(const SeriesLook& look) {
+  QXYSeries* series = nullptr;
+  if (look.line == PenStyle::None && look.marker) {
+    auto* scatter = new QScatterSeries;
+    scatter->setMarkerShape(QScatterSeries::MarkerShapeCircle);
+    scatter->setMarkerSize(pixels(look.marker->size));
+    series = scatter;
+  } else {
+    series = new QLineSeries;
+    series->setPointsVisible(look.marker.has_value());
+    if (look.line == PenStyle::None)
+      series->setPen(Qt::NoPen);
+  }
+  if (look.marker) {
+    series->setColor(colourOf(look.marker->fill));
+    if (auto* scatter = qobject_cast<QScatterSeries*>(series)) {
+      QPen border(colourOf(look.marker->pen));
+      border.setWidthF(std::max<qreal>(1, pixels(look.marker->penWidth)));
+      scatter->setPen(border);
+    }
+  }
+  return series;
+}
 
 QValueAxis* makeAxis(const ChartAxis& axis, Span span) {
   auto* qaxis = new QValueAxis;
@@ -63,9 +93,10 @@ QChart* buildChart(const ChartContent& content) {
   chart->setTitleFont(fontOf(content.titleFont));
 
   Span xs, ys;
-  std::vector<QLineSeries*> lines;
+  std::vector<QXYSeries*> lines;
   for (int series = 1; series <= content.seriesCount(); ++series) {
-    auto* line = new QLineSeries;
+    const auto look = content.looks.find(series);
+    QXYSeries* line = look == content.looks.end() ? new QLineSeries : seriesOf(look->second);
     line->setName(QString::fromStdString(content.label(series)));
     QList<QPointF> points;
     points.reserve(content.rowCount());
@@ -85,11 +116,15 @@ QChart* buildChart(const ChartContent& content) {
   QValueAxis* yAxis = makeAxis(content.yAxis, ys);
   chart->addAxis(xAxis, Qt::AlignBottom);
   chart->addAxis(yAxis, Qt::AlignLeft);
-  for (QLineSeries* line : lines) {
+  for (QXYSeries* line : lines) {
     line->attachAxis(xAxis);
     line->attachAxis(yAxis);
   }
 
+  if (content.plotBackground) {
+    chart->setPlotAreaBackgroundBrush(QBrush(colourOf(*content.plotBackground)));
+    chart->setPlotAreaBackgroundVisible(true);
+  }
   chart->legend()->setVisible(content.showLegend);
   chart->legend()->setAlignment(Qt::AlignRight);
   // A label cut short in a small chart shows whole as its tool tip.

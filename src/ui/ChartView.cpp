@@ -93,7 +93,15 @@ void ChartView::contextMenuEvent(QContextMenuEvent* event) {
   menu.addAction(tr("Save chart as PNG..."), this, [this] { saveAs(Picture::Png); });
   menu.addAction(tr("Save chart as SVG..."), this, [this] { saveAs(Picture::Svg); });
   menu.addAction(tr("Copy data as comma-separated text"), this, [this] { copyData(); });
+  if (!menuActions_.empty())
+    menu.addSeparator();
+  for (const auto& [text, action] : menuActions_)
+    menu.addAction(text, this, action);
   menu.exec(event->globalPos());
+}
+
+void ChartView::addMenuAction(const QString& text, std::function<void()> action) {
+  menuActions_.emplace_back(text, std::move(action));
 }
 
 void ChartView::saveAs(Picture picture) {

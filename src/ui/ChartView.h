@@ -5,6 +5,8 @@
 #include <QChartView>
 
 #include <functional>
+#include <utility>
+#include <vector>
 
 namespace vorlex::ui {
 
@@ -34,6 +36,12 @@ public:
   /// Puts the chart's data on the clipboard as comma-separated text.
   void copyData();
 
+  /// Adds an entry of the chart's own to the right-click menu, below the
+  /// saving ones.
+  void addMenuAction(const QString& text, std::function<void()> action);
+  /// The chart's own entries of the menu, in their order.
+  const std::vector<std::pair<QString, std::function<void()>>>& menuActions() const { return menuActions_; }
+
   enum class Picture { Png, Svg };
   /// Asks for a file name and saves the chart there; ".png" or ".svg" is
   /// added when the name lacks it. Cancel saves nothing.
@@ -55,6 +63,7 @@ private:
 
   ChartContent content_;
   bool titleCut_ = false;
+  std::vector<std::pair<QString, std::function<void()>>> menuActions_;
 };
 
 } // namespace vorlex::ui

@@ -45,6 +45,9 @@ const std::map<QString, Handler>& mainHandlers() {
       {"Command4", &MainForm::Command4_Click},   {"Command24", &MainForm::Command24_Click},
       {"cmdKandT", &MainForm::cmdKandT_Click},
       {"Command16", &MainForm::Command16_Click}, {"cmdETandAT", &MainForm::cmdETandAT_Click},
+      {"cmdStageSamplingData", &MainForm::cmdStageSamplingData_Click},
+      {"cmdStageProjection", &MainForm::cmdStageProjection_Click},
+      {"cmdProjectionAfterSampling", &MainForm::cmdProjectionAfterSampling_Click},
   };
   return kHandlers;
 }
@@ -102,6 +105,8 @@ Desktop::Desktop(Prompter& prompter)
   for (ChartView* view :
        {main->mainChart(), main->samplingChart(), large->chart(), carry->chart(), threshold->chart()})
     view->chooseFileToSave = chooseFile;
+  main->samplingChart()->addMenuAction(tr("Show as points"),
+                                       [this] { handle([this] { form_->sampling().showAsPoints(); }); });
 
   buildOtherForms();
 
@@ -171,7 +176,7 @@ void Desktop::clickMain(const QString& control) {
   if (found == mainHandlers().end())
     return;
   const Handler handler = found->second;
-  const bool run = control == QLatin1String("cmdRun");
+  const bool run = control == QLatin1String("cmdRun") || control == QLatin1String("cmdProjectionAfterSampling");
   handle([this, handler, run] {
     // A run blocks the form until it ends; the cursor says so.
     if (run)
@@ -291,6 +296,9 @@ void Desktop::showCharts() {
   ChartView* main = mainWindow_->mainChart();
   if (main->content() != session_->mainChart)
     main->showContent(session_->mainChart);
+  ChartView* sampling = mainWindow_->samplingChart();
+  if (sampling->content() != form_->sampling().chart())
+    sampling->showContent(form_->sampling().chart());
   ChartView* large = largeGraphWindow_->chart();
   if (large->content() != session_->largeChart)
     large->showContent(session_->largeChart);

@@ -253,6 +253,26 @@ const GoldenCase kCases[] = {
     onMoth("moth-capacity-parabola", "no-control", {"--carrying-capacity", "parabola:10,600,45,10,60"}),
     onMoth("moth-auto-et-capacity-parabola", "auto-et", {"--carrying-capacity", "parabola:5,60,45,0,60"}),
     onMoth("moth-auto-et-linear-threshold", "auto-et", {"--et", "linear:5,.5"}),
+    // From one count of 40 larvae placed at their entry age, with the
+    // example's stage-to-stage file.
+    {"moth-after-sampling",
+     "moth.txt",
+     "after-sampling",
+     30,
+     {"Open 0A4_Stage2StageTime.txt=RUN/moth-0A4_Stage2StageTime.txt",
+      "Open sampling data file=RUN/moth-larva-count.txt"},
+     0,
+     {"moth-0A4_Stage2StageTime.txt", "moth-larva-count.txt"}},
+    // A count of another day than 0 leaves the start empty: the run stops
+    // at day 0, before the report has a page.
+    {"moth-after-sampling-day5",
+     "moth.txt",
+     "after-sampling",
+     30,
+     {"Open 0A4_Stage2StageTime.txt=RUN/stage-times-five.txt",
+      "Open sampling data file=RUN/sample-larvae-day5.txt"},
+     1,
+     {"stage-times-five.txt", "sample-larvae-day5.txt"}},
 };
 
 INSTANTIATE_TEST_SUITE_P(Sessions, GoldenRun, ::testing::ValuesIn(kCases), [](const auto& param) {

@@ -9,6 +9,7 @@
 #include <QImage>
 #include <QLegend>
 #include <QLineSeries>
+#include <QScatterSeries>
 #include <QToolTip>
 #include <QValueAxis>
 #include <QtTest>
@@ -48,6 +49,26 @@ QValueAxis* axisOf(QChart& chart, Qt::Orientation orientation) {
 class ChartDrawingTest : public QObject {
   Q_OBJECT
 private slots:
+  void marksWithoutLinesAreScatteredCirclesOnAWhitePlot() {
+    ChartContent content = eggAndLarva();
+    content.plotBackground = vorlex::ChartColour{255, 255, 255};
+    content.looks[1] =
+        vorlex::SeriesLook{vorlex::PenStyle::None,
+                           vorlex::SeriesMarker{vorlex::MarkerStyle::FilledCircle, {255, 0, 0}, {}, 10, 200}};
+    content.looks[3] = content.looks[1]; // no third series: nothing to draw
+    std::unique_ptr<QChart> chart(vorlex::ui::buildChart(content));
+    QCOMPARE(chart->series().size(), 2);
+    auto* marks = qobject_cast<QScatterSeries*>(chart->series().at(0));
+    QVERIFY(marks);
+    QCOMPARE(marks->color(), QColor(255, 0, 0));
+    QCOMPARE(marks->markerShape(), QScatterSeries::MarkerShapeCircle);
+    QVERIFY(marks->markerSize() > 12 && marks->markerSize() < 15);
+    QCOMPARE(marks->count(), 3);
+    QVERIFY(qobject_cast<QLineSeries*>(chart->series().at(1)));
+    QVERIFY(chart->isPlotAreaBackgroundVisible());
+    QCOMPARE(chart->plotAreaBackgroundBrush().color(), QColor(255, 255, 255));
+  }
+
   void aTitleTooWideIsCutShortWithTheWholeTitleAsToolTip() {
     ChartContent content = eggAndLarva();
     content.title = "Total population size (T) and weighted vulnerable size (W) after release, day 0 to 60";

@@ -26,10 +26,12 @@
 #include <QPrinter>
 #include <QProcess>
 #include <QRadioButton>
+#include <QScatterSeries>
 #include <QScrollArea>
 #include <QScrollBar>
 #include <QtTest>
 
+#include <algorithm>
 #include <memory>
 #include <sstream>
 
@@ -224,6 +226,54 @@ void checkStartState(QWidget& mainWindow) {
 class DesktopSessionTest : public QObject {
   Q_OBJECT
 private slots:
+  void samplingButtonsDrawTheSecondChartAndProjectFromACount() {
+    const std::string examples = VORLEX_SOURCE_DIR "/examples/";
+    const std::string times = "Open 0A4_Stage2StageTime.txt=" + examples + "moth-0A4_Stage2StageTime.txt";
+    const std::string count = "Open sampling data file=" + examples + "moth-larva-count.txt";
+    Clicked s({("Open sampling data file=" + examples + "moth-field-counts.txt").c_str(), times.c_str(),
+               count.c_str(), "Which stage is to be predicted?=4", times.c_str(), count.c_str()});
+    s.click("Command2");
+    s.click("cmdInputLTdata");
+    QVERIFY(s.enabled("cmdProjectionAfterSampling"));
+
+    // The field counts: a series for the larvae and one for the moths.
+    s.click("cmdStageSamplingData");
+    ui::ChartView* sampling = s.desktop.mainWindow().samplingChart();
+    QVERIFY(sampling->isVisible() && !s.main("MSChart1")->isVisible());
+    QCOMPARE(sampling->chart()->title(), QStringLiteral("Stage size"));
+    QCOMPARE(sampling->chart()->series().size(), 2);
+    QCOMPARE(sampling->chart()->series().first()->name(), QStringLiteral("Larv"));
+
+    // Its menu shows the records as marks.
+    const auto points =
+        std::find_if(sampling->menuActions().begin(), sampling->menuActions().end(),
+                     [](const auto& entry) { return entry.first == QStringLiteral("Show as points"); });
+    QVERIFY(points != sampling->menuActions().end());
+    points->second();
+    QCOMPARE(sampling->chart()->title(), QStringLiteral("Sampling data"));
+    QVERIFY(qobject_cast<QScatterSeries*>(sampling->chart()->series().first()));
+
+    // The prediction from 40 larvae: the count on day 0, the females on day 21.
+    s.click("cmdStageProjection");
+    QCOMPARE(sampling->chart()->series().size(), 2);
+    auto* females = qobject_cast<QLineSeries*>(sampling->chart()->series().at(1));
+    QCOMPARE(females->name(), QStringLiteral("Fema"));
+    QCOMPARE(females->at(21).y(), 10.908);
+    QApplication::processEvents();
+    QVERIFY(s.desktop.mainWindow().grab().save(
+        testing::screenshotPath(QStringLiteral("mainform-prediction.png"))));
+
+    // The projection from the same count shows the run's stage chart too.
+    s.click("cmdProjectionAfterSampling");
+    QVERIFY(s.errors.isEmpty());
+    QVERIFY(s.main("MSChart1")->isVisible());
+    QCOMPARE(s.desktop.session().model().InitialN(4, 2), 40);
+    QCOMPARE(s.chartTitle(), QStringLiteral("Stage size"));
+    QApplication::processEvents();
+    QVERIFY(s.desktop.mainWindow().grab().save(
+        testing::screenshotPath(QStringLiteral("mainform-after-sampling.png"))));
+  }
+
   void eachStepEnablesTheNextAndTheRunShowsTheStageChart() {
     Clicked s;
     QVERIFY(s.shows(forms::kMainform));
