@@ -1,5 +1,6 @@
 #pragma once
 
+#include "exports/SpecificDateExport.h"
 #include "mainform/LargeGraphForm.h"
 
 #include <ctime>
@@ -38,6 +39,13 @@ public:
   void chooseOption(int number);
   /// Runs the chosen strategy, closes the report, writes the death files.
   void cmdRun_Click();
+  /// The one-day exports of the total size, the stage sizes, the total
+  /// consumption and the weighted size: each arms its export for the next
+  /// run.
+  void cmdVIPOption1_Click();
+  void cmdVIPOption2_Click();
+  void cmdVIPOption3_Click();
+  void cmdVIPOption4_Click();
 
   /// Quit: closes all files, hides the main form, shows the closing screen
   /// (whose own button ends the program).
@@ -80,6 +88,7 @@ public:
 
 private:
   void chooseStrategy(const std::string& optManagement);
+  void armExport(const char* button, DateExport which);
   void loadLifeTable();
   /// Where a failure of a run happened: the strategy as its option names
   /// it, the day, and the file being written, if any.
