@@ -45,6 +45,15 @@ struct ChartAxis {
   friend bool operator==(const ChartAxis&, const ChartAxis&) = default;
 };
 
+/// A shaded area between two series of a chart, drawn instead of their
+/// lines: the lower and the upper edge, by series number (from 1).
+struct ChartArea {
+  int lowerSeries = 0;
+  int upperSeries = 0;
+  ChartColour colour;
+  friend bool operator==(const ChartArea&, const ChartArea&) = default;
+};
+
 /// A line chart of x-y series. Series n (from 1) has its x values in column
 /// 2n-1 and its y values in column 2n; rows and columns count from 1.
 class ChartContent {
@@ -57,6 +66,8 @@ public:
   bool uniformAxis = false;
   ChartAxis xAxis;
   ChartAxis yAxis;
+  /// Pairs of series shown as shaded areas, in the order drawn.
+  std::vector<ChartArea> areas;
 
   /// Makes room for the series and rows, all values 0 and labels empty.
   /// A count below 0 stops with Invalid procedure call.

@@ -2,6 +2,7 @@
 
 #include "cli/AnswerPrompter.h"
 #include "cli/DataFileCheck.h"
+#include "exports/DailySizes.h"
 #include "mainform/MainForm.h"
 #include "model/Session.h"
 #include "textio/NumberForms.h"
@@ -13,7 +14,7 @@ namespace vorlex::cli {
 
 const char* const kRunUsage =
     "  vorlex run DATAFILE [--strategy S] [--sim-time N] [--answer 'TITLE=VALUE']...\n"
-    "             [--answers FILE] [--date TEXT]\n"
+    "             [--answers FILE] [--date TEXT] [--export WHICH]... [--series FILE]\n"
     "      Runs a whole session: simulation time, load of DATAFILE, strategy, run.\n"
     "      Outputs go beside DATAFILE.\n"
     "      --strategy S   no-control (default), predefined, auto-et, harvest, lambda,\n"
@@ -25,7 +26,14 @@ const char* const kRunUsage =
     "                     value prompt takes its default, yes/no is No, a file\n"
     "                     dialog is cancelled.\n"
     "      --answers FILE one TITLE=VALUE a line, # comments\n"
-    "      --date TEXT    date printed on the report (default: today)\n";
+    "      --date TEXT    date printed on the report (default: today)\n"
+    "      --export WHICH one-day export, WHICH one of total, stages, consumption,\n"
+    "                     weighed: clicks its button after the load, before the\n"
+    "                     strategy; repeatable, clicked in the order given. Its\n"
+    "                     prompts are answered by title; a file dialog's answer\n"
+    "                     is a path, relative to the current folder.\n"
+    "      --series FILE  also writes the total and weighed size of each day of\n"
+    "                     the run to FILE, comma-separated, at full precision\n";
 
 namespace {
 
@@ -52,7 +60,22 @@ struct RunOptions {
   std::string strategy = "no-control";
   std::string simTime = "60";
   std::string date;
+  std::vector<void (MainForm::*)()> exports;
+  std::string seriesFile;
 };
+
+// The export buttons by the name the command line gives them.
+void (MainForm::*exportButton(const std::string& which))() {
+  if (which == "total")
+    return &MainForm::cmdVIPOption1_Click;
+  if (which == "stages")
+    return &MainForm::cmdVIPOption2_Click;
+  if (which == "consumption")
+    return &MainForm::cmdVIPOption3_Click;
+  if (which == "weighed")
+    return &MainForm::cmdVIPOption4_Click;
+  throw AnswerError("unknown export '" + which + "': total, stages, consumption or weighed");
+}
 
 const Strategy* findStrategy(const std::string& name) {
   const auto found = std::find_if(std::begin(kStrategies), std::end(kStrategies),
@@ -83,6 +106,10 @@ int runCommand(const std::vector<std::string>& args, std::ostream& out, std::ost
         prompter.addAnswersFromFile(args[++i]);
       else if (arg == "--date" && hasValue)
         options.date = args[++i];
+      else if (arg == "--export" && hasValue)
+        options.exports.push_back(exportButton(args[++i]));
+      else if (arg == "--series" && hasValue)
+        options.seriesFile = args[++i];
       else if (!arg.empty() && arg[0] != '-' && options.dataFile.empty())
         options.dataFile = arg;
       else
@@ -122,6 +149,8 @@ int runCommand(const std::vector<std::string>& args, std::ostream& out, std::ost
   try {
     form.Command2_Click();
     form.cmdInputLTdata_Click();
+    for (const auto click : options.exports)
+      (form.*click)();
     form.chooseOption(strategy->option);
     form.cmdRun_Click();
   } catch (const AnswerError& error) {
@@ -130,6 +159,8 @@ int runCommand(const std::vector<std::string>& args, std::ostream& out, std::ost
     return 2;
   }
   session.files.closeAll();
+  if (!options.seriesFile.empty())
+    writeDailySizes(session, options.seriesFile);
 
   const Model& m = session.model();
   const int lastDay = session.lastDayReached;

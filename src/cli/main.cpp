@@ -1,4 +1,5 @@
 // vorlex: the command-line twin of the desktop program.
+#include "cli/BatchCommand.h"
 #include "cli/DataFileCheck.h"
 #include "cli/InfoCommand.h"
 #include "cli/RunCommand.h"
@@ -20,7 +21,7 @@ const char* const kInfoUsage =
     "      --cxj          the file has the consumption block C(x,j)\n"
     "      --sim-time N   simulation time that bounds the daily tables (default 60)\n";
 
-const std::string kUsage = std::string("Usage:\n") + vorlex::cli::kRunUsage + kInfoUsage +
+const std::string kUsage = std::string("Usage:\n") + vorlex::cli::kRunUsage + vorlex::cli::kBatchUsage + kInfoUsage +
                            "  vorlex --version\n"
                            "      Prints the version.\n"
                            "Each command's --help prints its own usage.\n";
@@ -85,6 +86,8 @@ int main(int argc, char** argv) {
   try {
     if (args[0] == "run")
       return vorlex::cli::runCommand({args.begin() + 1, args.end()}, std::cout, std::cerr);
+    if (args[0] == "batch")
+      return vorlex::cli::batchCommand({args.begin() + 1, args.end()}, std::cout, std::cerr);
     if (args[0] == "info")
       return runInfo({args.begin() + 1, args.end()});
     std::cerr << "vorlex: unknown command '" << args[0] << "'\n" << kUsage;
