@@ -39,6 +39,8 @@ const std::map<QString, Handler>& mainHandlers() {
       {"Command9", &MainForm::Command9_Click},   {"Command14", &MainForm::Command14_Click},
       {"Command15", &MainForm::Command15_Click}, {"cmdHowToPrint", &MainForm::cmdHowToPrint_Click},
       {"Command4", &MainForm::Command4_Click},
+      {"cmdVIPOption1", &MainForm::cmdVIPOption1_Click}, {"cmdVIPOption2", &MainForm::cmdVIPOption2_Click},
+      {"cmdVIPOption3", &MainForm::cmdVIPOption3_Click}, {"cmdVIPOption4", &MainForm::cmdVIPOption4_Click},
   };
   return kHandlers;
 }
@@ -164,6 +166,8 @@ void Desktop::clickLargeGraphs(const QString& control) {
     handle([&large] { large.Command4_Click(); });
   else if (control == QLatin1String("Command2"))
     handle([&large] { large.Command2_Click(); });
+  else if (control == QLatin1String("cmdBand"))
+    handle([&large] { large.cmdBand_Click(); });
   else
     handle([&large, name = control.toStdString()] { large.clickChartButton(name); });
 }
