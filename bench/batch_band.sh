@@ -36,7 +36,13 @@ while [ "$r" -le "$repeat" ]; do
     --export "total:60:$work/total-60.txt" --band "$work/band.csv" > "$work/out" 2>&1
   end=$(date +%s.%N)
   took=$(awk "BEGIN { printf \"%.3f\", $end - $start }")
-  echo "  repetition $r: $took s"
+  # Processor time of the batch and its runs so far (user + system), from
+  # the second line of `times`: what the runs cost whatever else the
+  # machine is doing.
+  times > "$work/times"
+  cpu=$(sed -n 2p "$work/times" | awk '{ n = 0; for (i = 1; i <= NF; ++i) { split($i, p, "m"); n += p[1] * 60 + p[2] } printf "%.3f", n }')
+  echo "  repetition $r: $took s wall, $(awk "BEGIN { printf \"%.3f\", $cpu - ${spent:-0} }") s processor time"
+  spent=$cpu
   times="$times $took"
   r=$((r + 1))
 done
