@@ -107,8 +107,9 @@ UncertaintyBand readBand(const std::string& path) {
 ChartContent bandChart(const UncertaintyBand& band, const std::string& name, bool weighed) {
   const auto& levels = weighed ? band.weighed : band.total;
   ChartContent chart;
-  chart.title = std::string(weighed ? "Weighed size" : "Total population size") +
-                ": median, 25-75 % and 2.5-97.5 % of the runs (" + name + ")";
+  // The legend tells the levels apart; the title names the file.
+  chart.title = std::string(weighed ? "Band of the weighed size" : "Band of the total population size") + " (" +
+                name + ")";
   chart.xAxis.title = "Time";
   chart.yAxis.title = weighed ? "Weighed size" : "Total population size";
   // The outer spread first, so that the inner one and the median stand
