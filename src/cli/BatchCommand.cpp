@@ -78,10 +78,12 @@ BatchOptions parse(const std::vector<std::string>& args) {
     if ((arg == "--strategy" || arg == "--sim-time" || arg == "--answer" || arg == "--answers" ||
          arg == "--date") &&
         hasValue) {
-      if (arg == "--answer") { // checked here, before any run
-        std::ostringstream unused;
+      // Answers are checked here, before any run.
+      std::ostringstream unused;
+      if (arg == "--answer")
         AnswerPrompter(unused).addAnswer(args[i + 1]);
-      }
+      else if (arg == "--answers")
+        AnswerPrompter(unused).addAnswersFromFile(args[i + 1]);
       options.runArgs.push_back(arg);
       options.runArgs.push_back(args[++i]);
     } else if (arg == "--export" && hasValue) {

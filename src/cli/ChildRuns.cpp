@@ -4,6 +4,8 @@
 #include <climits>
 #include <fcntl.h>
 #include <map>
+#include <string>
+#include <vector>
 #include <spawn.h>
 #include <sys/wait.h>
 #include <unistd.h>
@@ -22,6 +24,28 @@ std::string ownExecutable() {
 
 namespace {
 
+// The environment of the runs: this one's, and unless it says otherwise,
+// tables of a run from 32 KiB up take pages of their own, which the system
+// hands out zeroed when first touched: a run of a few days touches a small
+// part of them, and a short run costs a fifth less processor time.
+char** childEnvironment() {
+  static std::vector<std::string> words;
+  static std::vector<char*> pointers;
+  if (pointers.empty()) {
+    bool given = false;
+    for (char** entry = environ; *entry; ++entry) {
+      words.emplace_back(*entry);
+      given = given || words.back().rfind("MALLOC_MMAP_THRESHOLD_=", 0) == 0;
+    }
+    if (!given)
+      words.emplace_back("MALLOC_MMAP_THRESHOLD_=32768");
+    for (std::string& word : words)
+      pointers.push_back(word.data());
+    pointers.push_back(nullptr);
+  }
+  return pointers.data();
+}
+
 // Starts one child; its pid, or 0 when it could not be started.
 pid_t start(const std::string& program, const ChildRun& child) {
   std::vector<std::string> words{program};
@@ -38,7 +62,7 @@ pid_t start(const std::string& program, const ChildRun& child) {
   posix_spawn_file_actions_addopen(&actions, STDERR_FILENO, child.errorFile.c_str(),
                                    O_WRONLY | O_CREAT | O_TRUNC, 0644);
   pid_t pid = 0;
-  const int failed = posix_spawn(&pid, program.c_str(), &actions, nullptr, argv.data(), environ);
+  const int failed = posix_spawn(&pid, program.c_str(), &actions, nullptr, argv.data(), childEnvironment());
   posix_spawn_file_actions_destroy(&actions);
   return failed ? 0 : pid;
 }

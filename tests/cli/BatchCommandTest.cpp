@@ -123,7 +123,8 @@ TEST(BatchCommand, TheBandOfOneTableRunThriceIsThatTable) {
 TEST(BatchCommand, AnUnusableCommandLineExitsWithTwo) {
   RunFolder folder("batch-usage");
   for (const char* arguments : {"batch", "batch a.txt --export total:5", "batch a.txt --export sizes:5:f.txt",
-                                "batch a.txt --jobs 0", "batch a.txt --answer novalue"}) {
+                                "batch a.txt --jobs 0", "batch a.txt --answer novalue",
+                                "batch a.txt --answers missing.txt"}) {
     const CliResult result = runCli(arguments, folder.dir().string());
     EXPECT_EQ(result.status, 2) << arguments;
     EXPECT_NE(result.err.find("Usage:"), std::string::npos) << arguments;
