@@ -30,7 +30,7 @@ struct FourTables {
   std::string all() const {
     std::string list;
     for (const std::string& file : files)
-      list += " " + q(file);
+      list.append(" ").append(q(file));
     return list;
   }
 };
@@ -96,7 +96,7 @@ TEST(BatchCommand, TheBandOfOneTableRunThriceIsThatTable) {
   RunFolder folder("batch-same");
   std::string list;
   for (const char* name : {"x.txt", "y.txt", "z.txt"})
-    list += " " + q(folder.copy(examplePath("moth.txt"), name));
+    list.append(" ").append(q(folder.copy(examplePath("moth.txt"), name)));
   const CliResult batch =
       runCli("batch" + list + " --sim-time 25 --band " + q(folder.path("band.csv")), folder.dir().string());
   ASSERT_EQ(batch.status, 0) << batch.err;
