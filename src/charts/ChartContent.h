@@ -66,6 +66,13 @@ struct SeriesLook {
   PenStyle line = PenStyle::Solid;
   std::optional<SeriesMarker> marker;
   friend bool operator==(const SeriesLook&, const SeriesLook&) = default;
+/// A shaded area between two series of a chart, drawn instead of their
+/// lines: the lower and the upper edge, by series number (from 1).
+struct ChartArea {
+  int lowerSeries = 0;
+  int upperSeries = 0;
+  ChartColour colour;
+  friend bool operator==(const ChartArea&, const ChartArea&) = default;
 };
 
 /// A line chart of x-y series. Series n (from 1) has its x values in column
@@ -85,6 +92,8 @@ public:
   /// Looks of series by number (from 1); a series not named is a plain
   /// line, and a look of a series the chart does not have draws nothing.
   std::map<int, SeriesLook> looks;
+  /// Pairs of series shown as shaded areas, in the order drawn.
+  std::vector<ChartArea> areas;
 
   /// Makes room for the series and rows, all values 0 and labels empty.
   /// A count below 0 stops with Invalid procedure call.

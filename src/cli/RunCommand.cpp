@@ -2,6 +2,7 @@
 
 #include "cli/AnswerPrompter.h"
 #include "cli/DataFileCheck.h"
+#include "exports/DailySizes.h"
 #include "mainform/FunctionScripts.h"
 #include "mainform/MainForm.h"
 #include "model/Session.h"
@@ -16,6 +17,7 @@ namespace vorlex::cli {
 const char* const kRunUsage =
     "  vorlex run DATAFILE [--strategy S] [--sim-time N] [--answer 'TITLE=VALUE']...\n"
     "             [--answers FILE] [--date TEXT] [--carrying-capacity SPEC] [--et SPEC]\n"
+    "             [--export WHICH]... [--series FILE]\n"
     "      Runs a whole session: simulation time, load of DATAFILE, strategy, run.\n"
     "      Outputs go beside DATAFILE.\n"
     "      --strategy S   no-control (default), predefined, auto-et, harvest, lambda,\n"
@@ -38,7 +40,14 @@ const char* const kRunUsage =
     "                     logistic:KMAX,K0,R | polynomial:A,B,C,D,XFROM,XTO |\n"
     "                     parabola:Y0,YMAX,XMAX,XFROM,XTO | none\n"
     "      --et SPEC      ET(t) from an equation of the form \"ET(t)\", after the load:\n"
-    "                     constant:A | linear:A,B | logistic:A,B,C,L | hyperbola:A,B\n";
+    "                     constant:A | linear:A,B | logistic:A,B,C,L | hyperbola:A,B\n"
+    "      --export WHICH one-day export, WHICH one of total, stages, consumption,\n"
+    "                     weighed: clicks its button after the load, before the\n"
+    "                     strategy; repeatable, clicked in the order given. Its\n"
+    "                     prompts are answered by title; a file dialog's answer\n"
+    "                     is a path, relative to the current folder.\n"
+    "      --series FILE  also writes the total and weighed size of each day of\n"
+    "                     the run to FILE, comma-separated, at full precision\n";
 
 namespace {
 
@@ -72,7 +81,22 @@ struct RunOptions {
   std::string date;
   std::optional<FormChoice> capacity;
   std::optional<FormChoice> et;
+  std::vector<void (MainForm::*)()> exports;
+  std::string seriesFile;
 };
+
+// The export buttons by the name the command line gives them.
+void (MainForm::*exportButton(const std::string& which))() {
+  if (which == "total")
+    return &MainForm::cmdVIPOption1_Click;
+  if (which == "stages")
+    return &MainForm::cmdVIPOption2_Click;
+  if (which == "consumption")
+    return &MainForm::cmdVIPOption3_Click;
+  if (which == "weighed")
+    return &MainForm::cmdVIPOption4_Click;
+  throw AnswerError("unknown export '" + which + "': total, stages, consumption or weighed");
+}
 
 const Strategy* findStrategy(const std::string& name) {
   const auto found = std::find_if(std::begin(kStrategies), std::end(kStrategies),
@@ -108,6 +132,10 @@ int runCommand(const std::vector<std::string>& args, std::ostream& out, std::ost
         options.capacity = parseCarryingCapacity(args[++i]);
       else if (arg == "--et" && hasValue)
         options.et = parseEtEquation(args[++i]);
+      else if (arg == "--export" && hasValue)
+        options.exports.push_back(exportButton(args[++i]));
+      else if (arg == "--series" && hasValue)
+        options.seriesFile = args[++i];
       else if (!arg.empty() && arg[0] != '-' && options.dataFile.empty())
         options.dataFile = arg;
       else
@@ -154,6 +182,8 @@ int runCommand(const std::vector<std::string>& args, std::ostream& out, std::ost
     form.cmdInputLTdata_Click();
     if (options.et)
       applyEtEquation(form, *options.et);
+    for (const auto click : options.exports)
+      (form.*click)();
     if (afterSampling) {
       if (options.capacity)
         applyCarryingCapacity(form, *options.capacity);
@@ -174,6 +204,8 @@ int runCommand(const std::vector<std::string>& args, std::ostream& out, std::ost
     return 2;
   }
   session.files.closeAll();
+  if (!options.seriesFile.empty())
+    writeDailySizes(session, options.seriesFile);
 
   const Model& m = session.model();
   const int lastDay = session.lastDayReached;

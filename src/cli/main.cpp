@@ -1,5 +1,6 @@
 // vorlex: the command-line twin of the desktop program.
 #include "cli/CheckCommand.h"
+#include "cli/BatchCommand.h"
 #include "cli/DataFileCheck.h"
 #include "cli/InfoCommand.h"
 #include "cli/RunCommand.h"
@@ -22,7 +23,7 @@ const char* const kInfoUsage =
     "      --cxj          the file has the consumption block C(x,j)\n"
     "      --sim-time N   simulation time that bounds the daily tables (default 60)\n";
 
-const std::string kUsage = std::string("Usage:\n") + vorlex::cli::kRunUsage + kInfoUsage +
+const std::string kUsage = std::string("Usage:\n") + vorlex::cli::kRunUsage + vorlex::cli::kBatchUsage + kInfoUsage +
                            vorlex::cli::kCheckUsage +
                            vorlex::cli::kSamplingUsage + vorlex::cli::kPredictUsage +
                            "  vorlex --version\n"
@@ -93,6 +94,8 @@ int main(int argc, char** argv) {
       return vorlex::cli::samplingCommand({args.begin() + 1, args.end()}, std::cout, std::cerr);
     if (args[0] == "predict")
       return vorlex::cli::predictCommand({args.begin() + 1, args.end()}, std::cout, std::cerr);
+    if (args[0] == "batch")
+      return vorlex::cli::batchCommand({args.begin() + 1, args.end()}, std::cout, std::cerr);
     if (args[0] == "info")
       return runInfo({args.begin() + 1, args.end()});
     if (args[0] == "check")

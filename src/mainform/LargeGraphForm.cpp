@@ -1,10 +1,12 @@
 #include "mainform/LargeGraphForm.h"
 
+#include "exports/UncertaintyBand.h"
 #include "mainform/Forms.h"
 #include "model/Session.h"
 #include "textio/RuntimeError.h"
 
 #include <array>
+#include <filesystem>
 
 namespace vorlex {
 namespace {
@@ -40,6 +42,8 @@ LargeGraphForm::LargeGraphForm(Session& session) : session_(session) {
   controls[kLargeChart] = ControlState{true, false, {}, {}};
   for (const ChartButton& button : kChartButtons)
     controls[control(button.name)] = ControlState{true, true, button.caption, {}};
+  controls[control("cmdBand")] =
+      ControlState{true, true, "Uncertainty band", "Draw the band file of a batch of runs"};
   // Print is carried out by the desktop program itself.
   controls[control("Command1")] = ControlState{true, true, "Print", {}};
   controls[control("Command4")] = ControlState{true, true, "Back", {}};
@@ -60,6 +64,19 @@ void LargeGraphForm::clickChartButton(const std::string& name) {
       return;
     }
   raise(ErrorCode::SubscriptOutOfRange, "No chart button " + name + " on " + forms::kLargeGraphs);
+}
+
+void LargeGraphForm::cmdBand_Click() {
+  const std::string path = session_.prompter().chooseFileToOpen(kBandDialogTitle);
+  if (path.empty())
+    return;
+  try {
+    const UncertaintyBand band = readBand(path);
+    session_.largeChart = bandChart(band, std::filesystem::path(path).filename().string());
+  } catch (const RuntimeError& error) {
+    session_.prompter().inform("This file is no band file of a batch of runs:\n" + path + "\n" + error.what(),
+                               "Uncertainty band");
+  }
 }
 
 void LargeGraphForm::Command4_Click() {

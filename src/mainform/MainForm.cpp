@@ -4,6 +4,7 @@
 #include "mainform/CheckDataForm.h"
 #include "datafile/EtSelector.h"
 #include "functions/FunctionCharts.h"
+#include "exports/SpecificDateExport.h"
 #include "mainform/Forms.h"
 #include "mainform/LambdaCheck.h"
 #include "mainform/ParameterText.h"
@@ -423,6 +424,19 @@ void MainForm::cmdRun_Click() {
                                            "; figure files beside it in " +
                                            (folder.empty() ? "the current folder" : folder);
 }
+
+void MainForm::armExport(const char* button, DateExport which) {
+  try {
+    armDateExport(session_, which);
+  } catch (const RuntimeError& error) {
+    throw error.at("Button \"" + session_.controls[button].caption + "\"");
+  }
+}
+
+void MainForm::cmdVIPOption1_Click() { armExport("cmdVIPOption1", DateExport::TotalSize); }
+void MainForm::cmdVIPOption2_Click() { armExport("cmdVIPOption2", DateExport::StageSizes); }
+void MainForm::cmdVIPOption3_Click() { armExport("cmdVIPOption3", DateExport::Consumption); }
+void MainForm::cmdVIPOption4_Click() { armExport("cmdVIPOption4", DateExport::WeighedSize); }
 
 void MainForm::Command1_Click() {
   session_.files.closeAll();

@@ -2,6 +2,7 @@
 
 #include "mainform/CarryForm.h"
 #include "mainform/EtAtForm.h"
+#include "exports/SpecificDateExport.h"
 #include "mainform/LargeGraphForm.h"
 #include "mainform/SamplingButtons.h"
 
@@ -41,6 +42,13 @@ public:
   void chooseOption(int number);
   /// Runs the chosen strategy, closes the report, writes the death files.
   void cmdRun_Click();
+  /// The one-day exports of the total size, the stage sizes, the total
+  /// consumption and the weighted size: each arms its export for the next
+  /// run.
+  void cmdVIPOption1_Click();
+  void cmdVIPOption2_Click();
+  void cmdVIPOption3_Click();
+  void cmdVIPOption4_Click();
 
   /// Quit: closes all files, hides the main form, shows the closing screen
   /// (whose own button ends the program).
@@ -114,6 +122,7 @@ public:
 
 private:
   void chooseStrategy(const std::string& optManagement);
+  void armExport(const char* button, DateExport which);
   void loadLifeTable();
   /// Where a failure of a run happened: the strategy as its option names
   /// it, the day, and the file being written, if any.

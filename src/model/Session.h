@@ -1,6 +1,7 @@
 #pragma once
 
 #include "charts/ChartContent.h"
+#include "model/DateExports.h"
 #include "model/Model.h"
 #include "textio/FileTable.h"
 #include "textio/Prompter.h"
@@ -67,6 +68,8 @@ public:
   RunFlags flags;
   FileNames names;
   FileTable files;
+  /// The one-day exports the main form's buttons armed.
+  DateExports exports;
   /// The controls of the forms by name ("cmdRun", "Command5", ...), as the
   /// main form logic and the routines that touch them leave them.
   std::map<std::string, ControlState> controls;

@@ -1,5 +1,6 @@
 #include "reports/FigureFiles.h"
 
+#include "exports/SpecificDateExport.h"
 #include "exports/TotalPredation.h"
 #include "reports/FigureTerms.h"
 #include "reports/FigureWriters.h"
@@ -16,17 +17,19 @@ void SaveGraphicData(Session& session) {
   session.flow("In Public Sub SaveGraphicData");
   const bool allFigures = session.flags.OnlyTotalFigures != "Yes";
   const std::string& withCxj = session.flags.WithCxj;
-  // The one-day export, once it exists, appends its chosen-day rows between
-  // these files; this build has no such export.
+  // The one-day exports add their lines between these files.
   if (allFigures) {
     writeStageSizeFile(session);
     writeStageSizePlusOneFile(session);
+    writeStageSizesExport(session);
     writeLogStageSizeFile(session);
     writeVulnerableSizeFile(session);
     writeLogVulnerableSizeFile(session);
   }
   writeTotalSizeFile(session);
   writeTotalSizePlusOneFile(session);
+  writeTotalSizeExport(session);
+  writeWeighedSizeExport(session);
   // Kept on purpose: any value but "No" writes cost and harvest, while only
   // "Yes" writes the consumption files.
   if (allFigures && withCxj != "No")
@@ -38,6 +41,7 @@ void SaveGraphicData(Session& session) {
     writeConsumptionFile(session);
     writeConsumptionAndPopulationFile(session);
     writeConsumptionPlusOneFile(session);
+    writeConsumptionExport(session);
     WriteTotalPredation(session);
   }
   writeGrowthRateLnFile(session);

@@ -1,5 +1,6 @@
 #include "ChartDrawing.h"
 
+#include <QAreaSeries>
 #include <QChart>
 #include <QLegend>
 #include <QLineSeries>
@@ -93,10 +94,20 @@ QChart* buildChart(const ChartContent& content) {
   chart->setTitleFont(fontOf(content.titleFont));
 
   Span xs, ys;
-  std::vector<QXYSeries*> lines;
+  std::vector<QXYSeries*> lines(content.seriesCount() + 1, nullptr);
+  std::vector<QAbstractSeries*> shown;
+  const auto isEdge = [&content](int series) {
+    for (const ChartArea& area : content.areas)
+      if (area.lowerSeries == series || area.upperSeries == series)
+        return true;
+    return false;
+  };
   for (int series = 1; series <= content.seriesCount(); ++series) {
     const auto look = content.looks.find(series);
     QXYSeries* line = look == content.looks.end() ? new QLineSeries : seriesOf(look->second);
+    // Owned by the chart, also when it only edges an area.
+    line->setParent(chart);
+    lines[series] = line;
     line->setName(QString::fromStdString(content.label(series)));
     QList<QPointF> points;
     points.reserve(content.rowCount());
@@ -108,17 +119,40 @@ QChart* buildChart(const ChartContent& content) {
       points.append(QPointF(x, y));
     }
     line->replace(points);
-    chart->addSeries(line);
-    lines.push_back(line);
+  }
+  // Areas first, so that the lines stand over them; the edges of an area
+  // show as the area only.
+  for (const ChartArea& area : content.areas) {
+    if (area.lowerSeries < 1 || area.upperSeries < 1 || area.lowerSeries > content.seriesCount() ||
+        area.upperSeries > content.seriesCount())
+      continue;
+    auto* upper = qobject_cast<QLineSeries*>(lines[area.upperSeries]);
+    auto* lower = qobject_cast<QLineSeries*>(lines[area.lowerSeries]);
+    if (!upper || !lower)
+      continue;
+    auto* shaded = new QAreaSeries(upper, lower);
+    shaded->setName(QString::fromStdString(content.label(area.lowerSeries) + " - " +
+                                           content.label(area.upperSeries)));
+    const QColor colour = colourOf(area.colour);
+    shaded->setColor(colour);
+    shaded->setBorderColor(colour);
+    chart->addSeries(shaded);
+    shown.push_back(shaded);
+  }
+  for (int series = 1; series <= content.seriesCount(); ++series) {
+    if (isEdge(series))
+      continue;
+    chart->addSeries(lines[series]);
+    shown.push_back(lines[series]);
   }
 
   QValueAxis* xAxis = makeAxis(content.xAxis, xs);
   QValueAxis* yAxis = makeAxis(content.yAxis, ys);
   chart->addAxis(xAxis, Qt::AlignBottom);
   chart->addAxis(yAxis, Qt::AlignLeft);
-  for (QXYSeries* line : lines) {
-    line->attachAxis(xAxis);
-    line->attachAxis(yAxis);
+  for (QAbstractSeries* series : shown) {
+    series->attachAxis(xAxis);
+    series->attachAxis(yAxis);
   }
 
   if (content.plotBackground) {

@@ -48,6 +48,8 @@ const std::map<QString, Handler>& mainHandlers() {
       {"cmdStageSamplingData", &MainForm::cmdStageSamplingData_Click},
       {"cmdStageProjection", &MainForm::cmdStageProjection_Click},
       {"cmdProjectionAfterSampling", &MainForm::cmdProjectionAfterSampling_Click},
+      {"cmdVIPOption1", &MainForm::cmdVIPOption1_Click}, {"cmdVIPOption2", &MainForm::cmdVIPOption2_Click},
+      {"cmdVIPOption3", &MainForm::cmdVIPOption3_Click}, {"cmdVIPOption4", &MainForm::cmdVIPOption4_Click},
   };
   return kHandlers;
 }
@@ -200,6 +202,8 @@ void Desktop::clickLargeGraphs(const QString& control) {
     handle([&large] { large.Command4_Click(); });
   else if (control == QLatin1String("Command2"))
     handle([&large] { large.Command2_Click(); });
+  else if (control == QLatin1String("cmdBand"))
+    handle([&large] { large.cmdBand_Click(); });
   else
     handle([&large, name = control.toStdString()] { large.clickChartButton(name); });
 }

@@ -45,7 +45,7 @@ LargeGraphWindow::LargeGraphWindow(QWidget* parent) : QWidget(parent) {
   auto* side = new QVBoxLayout;
   side->addWidget(frame);
   side->addStretch();
-  for (const char* name : {"Command1", "Command4", "Command2"})
+  for (const char* name : {"cmdBand", "Command1", "Command4", "Command2"})
     side->addWidget(button(name));
 
   auto* whole = new QHBoxLayout(this);

@@ -30,6 +30,7 @@ struct EarlierRun {
   std::string strategy;
   int simTime;
   std::vector<std::string> answers;
+  std::vector<std::string> options = {}; // more arguments of the command
 };
 
 struct GoldenCase {
@@ -41,7 +42,7 @@ struct GoldenCase {
   int exitStatus = 0;
   std::vector<std::string> inputs = {}; // more files of tests/data the runs read
   std::optional<EarlierRun> earlier = {};
-  std::vector<std::string> options = {}; // more options of the run command
+  std::vector<std::string> options = {}; // more arguments of the command
 };
 
 std::ostream& operator<<(std::ostream& out, const GoldenCase& c) { return out << c.name; }
@@ -77,15 +78,15 @@ std::string inFolder(std::string answer, const std::string& folder) {
 // Runs one command of a case and keeps what it printed, made neutral, as
 // <stream><suffix>.txt in the folder.
 void runAndKeepOutput(const RunFolder& folder, const std::string& dataFile, const std::string& strategy,
-                      int simTime, const std::vector<std::string>& answers, int exitStatus,
-                      const std::string& suffix, const std::vector<std::string>& options = {}) {
+                      int simTime, const std::vector<std::string>& answers,
+                      const std::vector<std::string>& options, int exitStatus, const std::string& suffix) {
   const std::string dir = folder.dir().string();
   std::string arguments = "run " + quoted(folder.path(dataFile)) + " --strategy " + strategy +
                           " --sim-time " + std::to_string(simTime) + " --date 2026-11-21";
   for (const std::string& answer : answers)
     arguments += " --answer " + quoted(inFolder(answer, dir));
   for (const std::string& option : options)
-    arguments += " " + quoted(option);
+    arguments.append(" ").append(quoted(option));
   const CliResult result = runCli(arguments, dir);
   ASSERT_EQ(result.status, exitStatus) << dataFile << ": " << result.err;
   std::ofstream(folder.path("stdout" + suffix + ".txt"), std::ios::binary) << neutral(result.out, dir);
@@ -110,11 +111,11 @@ TEST_P(GoldenRun, EveryOutputFileMatchesItsReviewedCopy) {
 
   if (c.earlier) {
     const EarlierRun& e = *c.earlier;
-    runAndKeepOutput(folder, e.dataFile, e.strategy, e.simTime, e.answers, 0, "-earlier");
+    runAndKeepOutput(folder, e.dataFile, e.strategy, e.simTime, e.answers, e.options, 0, "-earlier");
     if (::testing::Test::HasFatalFailure())
       return;
   }
-  runAndKeepOutput(folder, c.dataFile, c.strategy, c.simTime, c.answers, c.exitStatus, "", c.options);
+  runAndKeepOutput(folder, c.dataFile, c.strategy, c.simTime, c.answers, c.options, c.exitStatus, "");
   if (::testing::Test::HasFatalFailure())
     return;
   for (const std::string& input : inputs) {
@@ -150,6 +151,10 @@ GoldenCase onMoth(std::string name, std::string strategy, std::vector<std::strin
 // The title of the file dialog that chooses a total-predation file.
 constexpr const char* kPredationFile =
     "Input predation data (file 10X with time lag or 9 without time lag) in predator VORLEX folder.";
+
+// The titles the four one-day exports share.
+const std::string kOpenOrAppend = "Open for the first time or append data to an existing file?";
+const std::string kFileCode = "Enter a file code (percentile, treatment, etc.)";
 
 const GoldenCase kCases[] = {
     {"moth-no-control", "moth.txt", "no-control", 30, {}},
@@ -273,6 +278,62 @@ const GoldenCase kCases[] = {
       "Open sampling data file=RUN/sample-larvae-day5.txt"},
      1,
      {"stage-times-five.txt", "sample-larvae-day5.txt"}},
+    // The one-day exports: every kind on a run with consumption data, the
+    // stage sizes clicked first and so headed with day 0; then a second
+    // session appending to the files of a first one; a cancelled file dialog;
+    // consumption asked of a table without it.
+    {"moth-cxj-exports",
+     "moth-cxj.txt",
+     "no-control",
+     20,
+     {"Attention=No", "Attention=Yes", "Add time to total predation data.=0",
+      "Predator? Parasitoid? Pest?=moths eaten", "Save stage size for specific date=12",
+      "Save total population size for specific date=12.5", "Save total consumption for specific date=13.5",
+      "Save total weighted size for specific date=20", "Open a file to save N(x,j,t).=RUN/stages.txt",
+      "Open a file to save N(t).=RUN/total.txt", "Open a file to save C(t).=RUN/consumption.txt",
+      "Open a file to save W(t).=RUN/weighed.txt", kOpenOrAppend + "=Yes", kOpenOrAppend + "=Yes",
+      kOpenOrAppend + "=Yes", kOpenOrAppend + "=Yes", kFileCode + "=s", kFileCode + "=t", kFileCode + "=c",
+      kFileCode + "=w"},
+     0,
+     {},
+     {},
+     {"--export", "stages", "--export", "total", "--export", "consumption", "--export", "weighed"}},
+    {"moth-exports-appended",
+     "moth-controls.txt",
+     "no-control",
+     30,
+     {"Save total population size for specific date=10", "Save stage size for specific date=10",
+      kOpenOrAppend + "=No", kOpenOrAppend + "=No", "Open a file to append N(t).=RUN/total.txt",
+      "Open a file to append N(x,j,t).=RUN/stages.txt", kFileCode + "=second"},
+     0,
+     {},
+     EarlierRun{"moth.txt",
+                "no-control",
+                30,
+                {"Save total population size for specific date=30", "Save stage size for specific date=20",
+                 kOpenOrAppend + "=Yes", kOpenOrAppend + "=Yes", "Open a file to save N(t).=RUN/total.txt",
+                 "Open a file to save N(x,j,t).=RUN/stages.txt", kFileCode + "=first"},
+                {"--export", "total", "--export", "stages"}},
+     {"--export", "total", "--export", "stages"}},
+    {"moth-export-cancelled",
+     "moth.txt",
+     "no-control",
+     10,
+     {"Save total population size for specific date=5", kOpenOrAppend + "=Yes"},
+     1,
+     {},
+     {},
+     {"--export", "total"}},
+    {"moth-export-consumption-without-cxj",
+     "moth.txt",
+     "no-control",
+     10,
+     {"Save total consumption for specific date=5", kOpenOrAppend + "=Yes",
+      "Open a file to save C(t).=RUN/consumption.txt"},
+     0,
+     {},
+     {},
+     {"--export", "consumption"}},
 };
 
 INSTANTIATE_TEST_SUITE_P(Sessions, GoldenRun, ::testing::ValuesIn(kCases), [](const auto& param) {

@@ -38,6 +38,10 @@ public:
     note("", title);
     return cli::AnswerPrompter::chooseFileToOpen(title);
   }
+  std::string chooseFileToSave(const std::string& title) override {
+    note("", title);
+    return cli::AnswerPrompter::chooseFileToSave(title);
+  }
   /// What the prompter printed, as the command line shows it.
   std::string shown() const { return shown_.str(); }
 
