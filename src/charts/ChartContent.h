@@ -66,6 +66,8 @@ struct SeriesLook {
   PenStyle line = PenStyle::Solid;
   std::optional<SeriesMarker> marker;
   friend bool operator==(const SeriesLook&, const SeriesLook&) = default;
+};
+
 /// A shaded area between two series of a chart, drawn instead of their
 /// lines: the lower and the upper edge, by series number (from 1).
 struct ChartArea {
