@@ -7,6 +7,7 @@
 #include "mainform/Sayings.h"
 #include "model/Session.h"
 #include "reports/DeathFiles.h"
+#include "strategies/ControlOptimisation.h"
 #include "strategies/ControlledGrowth.h"
 #include "strategies/UnlimitedGrowth.h"
 #include "textio/NumberForms.h"
@@ -244,7 +245,7 @@ void MainForm::loadLifeTable() {
   session_.files.openOutput(kReportFile, names.ReportFileName);
 
   enable(session_, {"cmdInputLTdata", "Command3"}, false);
-  enable(session_, {"Frame4", "Option1", "Option2", "Option3", "Option6", "Option7", "Option8", "Option9",
+  enable(session_, {"Frame4", "Option1", "Option2", "Option3", "Option4", "Option5", "Option6", "Option7", "Option8", "Option9",
                     "cmdStageSamplingData", "cmdStageProjection", "cmdProjectionAfterSampling", "MSChart1"});
   enable(session_, {"Command2"}, false);
 }
@@ -353,6 +354,8 @@ Driver driverOf(const std::string& optManagement) {
       {"OptNoControl", &UnlimitedGrowth},
       {"OptGrowthWithExtraMortality", &UnlimitedGrowth},
       {"OptPredefinedControl", &PredefinedControl},
+      {"OptOptimize1stControl", &OptimizeFirstControl},
+      {"OptOptimizeControlInterval", &OptimizeControlInterval},
       {"OptAutoControlBasedOnET", &AutoControlBasedonET},
       {"OptGrowthWithHarvest", &GrowthWithHarvest},
       {"OptGrowthToLambda", &GrowthToLambda},
