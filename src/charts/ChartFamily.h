@@ -107,6 +107,10 @@ ChartContent ShowTotalConsumeAfterRelease(Session& session);
 ChartContent ShowTotalLogConsumeAfterRelease(Session& session);
 ChartContent ShowStageDeath(Session& session);
 ChartContent ShowLogStageDeath(Session& session);
+/// The efficacy of a treatment on each day T after an optimisation of the
+/// control: on the weighed insect days, by Abbott and by Henderson-Tilton,
+/// in per cent; a curve only where it has values of 0 or more.
+ChartContent ShowEfficacy(Session& session);
 } // namespace grafform
 
 } // namespace vorlex

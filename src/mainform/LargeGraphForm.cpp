@@ -40,6 +40,7 @@ LargeGraphForm::LargeGraphForm(Session& session) : session_(session) {
   controls[kLargeChart] = ControlState{true, false, {}, {}};
   for (const ChartButton& button : kChartButtons)
     controls[control(button.name)] = ControlState{true, true, button.caption, {}};
+  controls[control("cmdEfficacy")] = ControlState{false, true, "Efficacy of treatment", {}};
   // Print is carried out by the desktop program itself.
   controls[control("Command1")] = ControlState{true, true, "Print", {}};
   controls[control("Command4")] = ControlState{true, true, "Back", {}};
@@ -51,9 +52,14 @@ std::span<const LargeGraphForm::ChartButton> LargeGraphForm::chartButtons() { re
 void LargeGraphForm::Form_Load() {
   session_.largeChart = grafform::ShowStageStructure(session_);
   session_.largeGraphsLoaded = true;
+  session_.controls[control("cmdEfficacy")].enabled = !session_.efficacy.empty();
 }
 
+void LargeGraphForm::cmdEfficacy_Click() { session_.largeChart = grafform::ShowEfficacy(session_); }
+
 void LargeGraphForm::clickChartButton(const std::string& name) {
+  if (name == "cmdEfficacy")
+    return cmdEfficacy_Click();
   for (const ChartButton& button : kChartButtons)
     if (name == button.name) {
       session_.largeChart = button.routine(session_);

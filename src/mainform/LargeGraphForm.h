@@ -34,9 +34,13 @@ public:
 
   /// The first time the form is shown: the stage chart.
   void Form_Load();
-  /// A click on one of the chart buttons, by control name ("Command6").
-  /// Unknown names stop with Subscript out of range.
+  /// A click on one of the chart buttons, by control name ("Command6"),
+  /// or on the efficacy button. Unknown names stop with Subscript out of
+  /// range.
   void clickChartButton(const std::string& name);
+  /// The efficacy chart, which can be clicked after an optimisation of
+  /// the control.
+  void cmdEfficacy_Click();
   /// Back: hides the form and shows the main form.
   void Command4_Click();
   /// Quit: hides the form and shows the closing screen.
