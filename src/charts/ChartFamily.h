@@ -109,7 +109,8 @@ ChartContent ShowStageDeath(Session& session);
 ChartContent ShowLogStageDeath(Session& session);
 /// The efficacy of a treatment on each day T after an optimisation of the
 /// control: on the weighed insect days, by Abbott and by Henderson-Tilton,
-/// in per cent; a curve only where it has values of 0 or more.
+/// in per cent, on the days it could be worked out; a curve without such a
+/// day is left out.
 ChartContent ShowEfficacy(Session& session);
 } // namespace grafform
 

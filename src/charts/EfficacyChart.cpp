@@ -22,14 +22,15 @@ constexpr Curve kCurves[] = {
 } // namespace
 
 ChartContent ShowEfficacy(Session& session) {
-  // As on the report's pages, a day shows an efficacy only where it could
-  // be worked out and is not below 0.
+  // A day shows an efficacy where it could be worked out, as in the
+  // efficacy file; below 0 too, where the treated run ended above the
+  // untreated one.
   std::vector<std::pair<const Curve*, std::vector<const EfficacyRow*>>> shown;
   std::size_t rows = 0;
   for (const Curve& curve : kCurves) {
     std::vector<const EfficacyRow*> points;
     for (const EfficacyRow& row : session.efficacy)
-      if (const auto& value = row.*curve.efficacy; value && *value >= 0)
+      if (row.*curve.efficacy)
         points.push_back(&row);
     if (points.empty())
       continue;

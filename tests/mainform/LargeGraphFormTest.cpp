@@ -114,9 +114,8 @@ TEST_F(LargeGraphFormRun, LoadShowsTheStageChart) {
 }
 
 // The efficacy button is enabled by an optimisation's efficacy rows; its
-// chart shows each efficacy on the days it has one of 0 or more, a curve
-// with fewer such days staying on its last one, and leaves out a curve
-// without any.
+// chart shows each efficacy on the days it has one, a curve with fewer days
+// staying on its last one, and leaves out a curve without any.
 TEST_F(LargeGraphFormRun, TheEfficacyButtonDrawsTheEfficaciesOfTheDays) {
   form.Form_Load();
   EXPECT_FALSE(control("grafform.cmdEfficacy").enabled);
@@ -137,12 +136,12 @@ TEST_F(LargeGraphFormRun, TheEfficacyButtonDrawsTheEfficaciesOfTheDays) {
   form.clickChartButton("cmdEfficacy");
   const ChartContent& chart = session.largeChart;
   ASSERT_EQ(chart.seriesCount(), 2);
-  ASSERT_EQ(chart.rowCount(), 3);
+  ASSERT_EQ(chart.rowCount(), 4);
   EXPECT_EQ(chart.label(1), "Abbott");
   EXPECT_EQ(chart.label(2), "Henderson-Tilton");
-  const std::vector<double> expected{.5, 20, 1, 40, 1.5, 60, 1.5, 50, 1.5, 60, 2.5, 70};
+  const std::vector<double> expected{.5, 20, .5, -5, 1.5, 60, 1, 40, 2, -300, 1.5, 50, 2, -300, 2.5, 70};
   std::vector<double> shown;
-  for (int row = 1; row <= 3; ++row)
+  for (int row = 1; row <= 4; ++row)
     for (int column = 1; column <= 4; ++column)
       shown.push_back(chart.at(row, column));
   EXPECT_EQ(shown, expected);
