@@ -107,6 +107,11 @@ ChartContent ShowTotalConsumeAfterRelease(Session& session);
 ChartContent ShowTotalLogConsumeAfterRelease(Session& session);
 ChartContent ShowStageDeath(Session& session);
 ChartContent ShowLogStageDeath(Session& session);
+/// The efficacy of a treatment on each day T after an optimisation of the
+/// control: on the weighed insect days, by Abbott and by Henderson-Tilton,
+/// in per cent, on the days it could be worked out; a curve without such a
+/// day is left out.
+ChartContent ShowEfficacy(Session& session);
 } // namespace grafform
 
 } // namespace vorlex

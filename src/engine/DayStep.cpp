@@ -79,10 +79,13 @@ private:
   // One day; false when the population died out. A variant may move the
   // day on to the last one.
   bool projectDay(int& t) {
-    if (t > m_.AgeSize.upper(1))
+    // The day whose entries the step's results fill.
+    const int s = rules_.resultsOneDayAhead ? t + 1 : t;
+    if (s > m_.AgeSize.upper(1))
       raise(ErrorCode::SubscriptOutOfRange);
+    const bool beyondSchedule = rules_.resultsOneDayAhead && s > m_.SimTime + 1;
     for (int j = 1; j <= stages_; ++j) {
-      survival_[j] = rules_.survivalOfTheDay ? m_.StageSurvivalDay(j, t) : 1;
+      survival_[j] = rules_.survivalOfTheDay && !beyondSchedule ? m_.StageSurvivalDay(j, s) : 1;
       inflow_[j] = rules_.scheduledMortalities ? inflowSurvival(j, t) : 1;
     }
     echoSurvival_ = rules_.echoFirstControlDay && session_.flowOn() && t == m_.ControlDate(1);
@@ -97,14 +100,17 @@ private:
       limitByCarryingCapacity(t);
     if (rules_.afterDensity)
       rules_.afterDensity(session_);
-    m_.TotalSize(t) = 0;
+    m_.TotalSize(s) = 0;
     if (physogastry_)
       m_.PhysoTotalSize(t) = 0;
-    consume(t);
+    consume(s);
     if (rules_.afterConsumption)
       rules_.afterConsumption(session_);
-    takeNextDay(t, !(rules_.keepMatrixOnSimTime && t == m_.SimTime));
-    recordStages(t);
+    takeNextDay(s, !(rules_.keepMatrixOnSimTime && t == m_.SimTime));
+    if (rules_.dayRecords)
+      recordStages(s);
+    else
+      recordStageSizes(s);
     if (rules_.afterStageRecords)
       rules_.afterStageRecords(session_);
     if (rules_.cumulativeWeighedSize) {
@@ -118,19 +124,22 @@ private:
           m_.WeighedAtCritical = m_.DailyWID(t);
     if (physogastry_)
       m_.PhysoWeighedLast = m_.PhysoDailyWID(t);
-    recordFractions(t);
+    if (rules_.dayRecords)
+      recordFractions(t);
     if (rules_.skipAfterEmptyDay && m_.StageSum(t - 1) <= 0) {
       t = checkedInt16(m_.SimTime + 1);
       m_.Day = static_cast<i16>(t);
     }
-    recordGrowthRates(t);
+    if (rules_.dayRecords)
+      recordGrowthRates(t);
     if (rules_.deaths)
       m_.TotalDifference(t) = m_.TotalSize(t) - m_.TotalSize(t - 1);
-    if (m_.TotalSize(t) <= 0) {
+    if (m_.TotalSize(s) <= 0) {
       stopOnExtinction(t);
       return false;
     }
-    m_.TotalGrowthLn(t - 1) = lnGrowth(m_.TotalSize(t), m_.TotalSize(t - 1));
+    if (rules_.dayRecords)
+      m_.TotalGrowthLn(t - 1) = lnGrowth(m_.TotalSize(t), m_.TotalSize(t - 1));
     if (physogastry_)
       m_.PhysoTotalGrowthLn(t - 1) = lnGrowth(m_.PhysoTotalSize(t), m_.PhysoTotalSize(t - 1));
     return true;
@@ -383,6 +392,20 @@ private:
     }
   }
 
+  // The sizes of the stages alone, stage by stage, age by age.
+  void recordStageSizes(int t) {
+    PerStage sizes{};
+    for (int j = 1; j <= stages_; ++j)
+      sizes[j] = m_.StageSize(j, t);
+    for (int x = 0; x <= lastAge_; ++x) {
+      const double* n = next_.row(x);
+      for (int j = 1; j <= stages_; ++j)
+        sizes[j] += n[j];
+    }
+    for (int j = 1; j <= stages_; ++j)
+      m_.StageSize(j, t) = sizes[j];
+  }
+
   // Fractions of a day without individuals keep what they held.
   void recordFractions(int t) {
     for (int j = 1; j <= stages_; ++j) {
@@ -423,7 +446,8 @@ private:
   void stopOnExtinction(int t) {
     if (session_.files.isOpen(kReportFile))
       session_.files.output(kReportFile).print(" Population size = 0 !!! Stop! ");
-    session_.prompter().inform(rules_.extinctionText(m_, t), "Population size=0");
+    if (rules_.extinctionText)
+      session_.prompter().inform(rules_.extinctionText(m_, t), "Population size=0");
   }
 
   Session& session_;

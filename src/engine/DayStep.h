@@ -57,9 +57,19 @@ struct DayStepRules {
   void (*afterConsumption)(Session&) = nullptr;
   /// A step of the variant's own after the stage records (Day holds the day).
   void (*afterStageRecords)(Session&) = nullptr;
+  /// The results of day t's step stand at day t + 1, and the control
+  /// survival of the step is that of day t + 1 (1 beyond SimTime + 1): the
+  /// day step of a run of a series.
+  bool resultsOneDayAhead = false;
+  /// Everything a day records besides the sizes of its ages and stages and
+  /// the total: sums and weighed sizes of the stages, weakness, sampled
+  /// sizes, fractions and growth rates. A run of a series keeps only the
+  /// sizes and leaves the series of the projection as they are.
+  bool dayRecords = true;
   /// The last day projected, if not SimTime + 1.
   int lastDay = 0;
-  /// The message that tells the user that the population died out on day t.
+  /// The message that tells the user that the population died out on day t;
+  /// none, and only the report's stop line, when null.
   std::string (*extinctionText)(const Model&, int t) = nullptr;
 };
 

@@ -44,6 +44,7 @@ LargeGraphForm::LargeGraphForm(Session& session) : session_(session) {
     controls[control(button.name)] = ControlState{true, true, button.caption, {}};
   controls[control("cmdBand")] =
       ControlState{true, true, "Uncertainty band", "Draw the band file of a batch of runs"};
+  controls[control("cmdEfficacy")] = ControlState{false, true, "Efficacy of treatment", {}};
   // Print is carried out by the desktop program itself.
   controls[control("Command1")] = ControlState{true, true, "Print", {}};
   controls[control("Command4")] = ControlState{true, true, "Back", {}};
@@ -55,9 +56,14 @@ std::span<const LargeGraphForm::ChartButton> LargeGraphForm::chartButtons() { re
 void LargeGraphForm::Form_Load() {
   session_.largeChart = grafform::ShowStageStructure(session_);
   session_.largeGraphsLoaded = true;
+  session_.controls[control("cmdEfficacy")].enabled = !session_.efficacy.empty();
 }
 
+void LargeGraphForm::cmdEfficacy_Click() { session_.largeChart = grafform::ShowEfficacy(session_); }
+
 void LargeGraphForm::clickChartButton(const std::string& name) {
+  if (name == "cmdEfficacy")
+    return cmdEfficacy_Click();
   for (const ChartButton& button : kChartButtons)
     if (name == button.name) {
       session_.largeChart = button.routine(session_);

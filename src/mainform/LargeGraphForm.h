@@ -34,8 +34,9 @@ public:
 
   /// The first time the form is shown: the stage chart.
   void Form_Load();
-  /// A click on one of the chart buttons, by control name ("Command6").
-  /// Unknown names stop with Subscript out of range.
+  /// A click on one of the chart buttons, by control name ("Command6"),
+  /// or on the efficacy button. Unknown names stop with Subscript out of
+  /// range.
   void clickChartButton(const std::string& name);
   /// The band of a batch of runs: asks for a band file and shows the
   /// spread of its total size; a file that is no band is told and changes
@@ -43,6 +44,9 @@ public:
   void cmdBand_Click();
   /// The title of the band file's dialog.
   static constexpr const char* kBandDialogTitle = "Open a band file of a batch of runs";
+  /// The efficacy chart, which can be clicked after an optimisation of
+  /// the control.
+  void cmdEfficacy_Click();
   /// Back: hides the form and shows the main form.
   void Command4_Click();
   /// Quit: hides the form and shows the closing screen.

@@ -11,6 +11,7 @@
 #include "mainform/Sayings.h"
 #include "model/Session.h"
 #include "reports/DeathFiles.h"
+#include "strategies/ControlOptimisation.h"
 #include "strategies/ControlledGrowth.h"
 #include "strategies/UnlimitedGrowth.h"
 #include "textio/NumberForms.h"
@@ -249,7 +250,7 @@ void MainForm::loadLifeTable() {
   session_.files.openOutput(kReportFile, names.ReportFileName);
 
   enable(session_, {"cmdInputLTdata", "Command3"}, false);
-  enable(session_, {"Frame4", "Option1", "Option2", "Option3", "Option6", "Option7", "Option8", "Option9",
+  enable(session_, {"Frame4", "Option1", "Option2", "Option3", "Option4", "Option5", "Option6", "Option7", "Option8", "Option9",
                     "cmdStageSamplingData", "cmdStageProjection", "cmdProjectionAfterSampling", "MSChart1"});
   // The first run can be density-limited and can take a threshold from an
   // equation.
@@ -361,6 +362,8 @@ Driver driverOf(const std::string& optManagement) {
       {"OptNoControl", &UnlimitedGrowth},
       {"OptGrowthWithExtraMortality", &UnlimitedGrowth},
       {"OptPredefinedControl", &PredefinedControl},
+      {"OptOptimize1stControl", &OptimizeFirstControl},
+      {"OptOptimizeControlInterval", &OptimizeControlInterval},
       {"OptAutoControlBasedOnET", &AutoControlBasedonET},
       {"OptGrowthWithHarvest", &GrowthWithHarvest},
       {"OptGrowthToLambda", &GrowthToLambda},

@@ -20,7 +20,9 @@ void recordAgesOfDayZero(Session& session);
 
 /// StageSize, StageSum, DailyWID, WeighedSize, WeakSize and the sampled
 /// stages' sizes of day 0, stage by stage; with `physogastry` their twins.
-void recordStagesOfDayZero(Session& session, bool physogastry);
+/// In a run of a series (`runOfSeries`) the weighed size goes to the run's
+/// RunWID instead, and the day's other records are left as they are.
+void recordStagesOfDayZero(Session& session, bool physogastry, bool runOfSeries = false);
 
 /// StageFraction of day 0 (and its twin with `physogastry`); an empty
 /// population stops here with 0 / 0.

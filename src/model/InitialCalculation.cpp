@@ -56,12 +56,16 @@ void recordAgesOfDayZero(Session& session) {
   }
 }
 
-void recordStagesOfDayZero(Session& session, bool physogastry) {
+void recordStagesOfDayZero(Session& session, bool physogastry, bool runOfSeries) {
   Model& m = session.model();
   for (int stage = 1; stage <= m.NrStage; ++stage) {
     for (int age = 0; age <= m.LastAge; ++age)
       m.StageSize(stage, 0) += m.PopN(age, stage);
     m.StageSum(0) += m.StageSize(stage, 0);
+    if (runOfSeries) {
+      m.RunWID(m.SeriesIndex) += m.StageSize(stage, 0) * m.WeighCoef(stage);
+      continue;
+    }
     if (physogastry) {
       m.PhysoStageSize(stage, 0) = m.StageSize(stage, 0);
       m.PhysoStageSum(0) = m.StageSum(0);

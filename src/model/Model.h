@@ -244,6 +244,24 @@ struct Model {
   /// Number of the run in a series of runs; 0 for a single projection.
   i16 SeriesIndex = 0;
 
+  // A series of runs, indexed by the run T (its treatment day).
+  /// Weighed insect days of run T: the weighed size summed over its days.
+  Table1<double> RunWID{kLastDaySlot};
+  /// RunWID as it stood at the end of each day; the last day's stays.
+  Table1<double> RunWIDCritical{kLastDaySlot};
+  /// RunWIDCritical over WeighedAtCritical, and RunWID over DailyWID(Day)
+  /// at the end of the run; -1 where the divisor is 0.
+  Table1<double> RunWIDToCritical{kLastDaySlot};
+  Table1<double> RunWIDToFinal{kLastDaySlot};
+  /// Total size and sampled stages' size on the day of treatment, before
+  /// it acts, and SamplingInterval days later.
+  Table1<double> RunTotalBefore{kLastDaySlot};
+  Table1<double> RunStageBefore{kLastDaySlot};
+  Table1<double> RunTotalAfter{kLastDaySlot};
+  Table1<double> RunStageAfter{kLastDaySlot};
+  /// What the series of two treatments varies.
+  std::string ScheduleTitle;
+
   // Report pages and plots.
   /// Number of controls the automatic rule has taken; 0 under every other
   /// strategy. The title page lists their days, AutoControlDay(1..).
@@ -262,6 +280,18 @@ struct Model {
   /// Running number of the plot pages; never reset, so a further run of the
   /// same session goes on counting.
   double FigNumber = 0;
+  /// An efficacy page: its two title lines, the labels above and below the
+  /// plot, and its series by treatment day: untreated before (U) and after
+  /// (V), treated (T), and the ratio whose complement is the efficacy. A
+  /// value below 0 is no value and gets no mark.
+  std::string EfficacyTitle1;
+  std::string EfficacyTitle2;
+  std::string EfficacyScaleLabel;
+  std::string EfficacyAxisLabel;
+  Table1<double> PlotU{kLastDaySlot};
+  Table1<double> PlotV{kLastDaySlot};
+  Table1<double> PlotT{kLastDaySlot};
+  Table1<double> PlotEfficacy{kLastDaySlot};
 
   // Figure files and the total-predation file.
   /// Name part of the figure file being opened: BaseName + "-" + FigureSuffix + ".txt".

@@ -2,6 +2,7 @@
 
 #include "charts/ChartContent.h"
 #include "model/DateExports.h"
+#include "model/EfficacyRow.h"
 #include "model/Model.h"
 #include "textio/FileTable.h"
 #include "textio/Prompter.h"
@@ -11,6 +12,7 @@
 #include <map>
 #include <memory>
 #include <string>
+#include <vector>
 
 namespace vorlex {
 
@@ -65,6 +67,13 @@ public:
 
   Model& model() { return *model_; }
   const Model& model() const { return *model_; }
+  /// Puts another model in the place of the session's and hands back the
+  /// one it held: work that must leave the run's model as it stands does
+  /// it on a copy.
+  std::unique_ptr<Model> exchangeModel(std::unique_ptr<Model> other) {
+    model_.swap(other);
+    return other;
+  }
   RunFlags flags;
   FileNames names;
   FileTable files;
@@ -90,6 +99,9 @@ public:
   std::int16_t LargeChartCycleIndex = 0;
   /// Whether grafform was loaded: its Form_Load runs on its first showing.
   bool largeGraphsLoaded = false;
+  /// The efficacy of a treatment on each day, when the run was an
+  /// optimisation of the control; empty otherwise.
+  std::vector<EfficacyRow> efficacy;
 
   bool flowOn() const { return flags.FlowFlag == "Yes"; }
   /// Writes a print line to the flow record when it is on.

@@ -33,8 +33,19 @@ private:
 template <typename T> class Storage<T, true> {
 public:
   explicit Storage(std::size_t size) : size_(size), cells_(allocate(size)) {}
+  // A copy writes only the blocks that hold something: the rest of a large
+  // table stays the zero memory it was handed, and costs nothing.
   Storage(const Storage& other) : size_(other.size_), cells_(allocate(other.size_)) {
-    std::copy(other.data(), other.data() + size_, data());
+    constexpr std::size_t kBlock = 4096 / sizeof(T);
+    const T* from = other.data();
+    T* to = data();
+    for (std::size_t at = 0; at < size_; at += kBlock) {
+      const std::size_t count = std::min(kBlock, size_ - at);
+      // Byte by byte, so that a -0 is copied as it is.
+      const auto* bytes = reinterpret_cast<const unsigned char*>(from + at);
+      if (std::any_of(bytes, bytes + count * sizeof(T), [](unsigned char byte) { return byte != 0; }))
+        std::copy(from + at, from + at + count, to + at);
+    }
   }
   Storage& operator=(const Storage& other) {
     if (this != &other) {

@@ -10,12 +10,14 @@ namespace vorlex {
 
 namespace {
 
-enum class Start { Predefined, ByThreshold };
+enum class Start { Predefined, ByThreshold, RunOfSeries };
 
 void controlledDayZero(Session& session, Start start) {
   Model& m = session.model();
   const bool byThreshold = start == Start::ByThreshold;
-  const int lastDay = checkedInt16(m.SimTime + 1);
+  const bool runOfSeries = start == Start::RunOfSeries;
+  // A run of a series writes its last day's results one day further on.
+  const int lastDay = checkedInt16(m.SimTime + (runOfSeries ? 2 : 1));
 
   m.TotalSize(0) = 0;
   m.InitialSize = 0;
@@ -51,7 +53,7 @@ void controlledDayZero(Session& session, Start start) {
 
   recordAgesOfDayZero(session);
   m.TotalSizeStart = m.TotalSize(0);
-  recordStagesOfDayZero(session, false);
+  recordStagesOfDayZero(session, false, runOfSeries);
   m.CUMWID(0) = m.PreviousCumWID + m.DailyWID(0);
   recordFractionsOfDayZero(session, false);
   if (m.TotalSize(0) <= 0)
@@ -69,6 +71,8 @@ void VorlexF2(Session& session) {
     flowControlSchedule(session);
   }
 }
+
+void seriesRunDayZero(Session& session) { controlledDayZero(session, Start::RunOfSeries); }
 
 void VorlexF2AutoControl(Session& session) {
   session.flow("In Public Sub VorlexF2AutoControl");

@@ -14,6 +14,11 @@ void VorlexF1(Session& session);
 /// consumption. Leaves Day at 0.
 void VorlexF2(Session& session);
 
+/// Day 0 of a run of a series, as VorlexF2: the ages and stages are
+/// cleared up to SimTime + 2, and the weighed size of day 0 goes to the
+/// run's weighed insect days instead of the day's records.
+void seriesRunDayZero(Session& session);
+
 /// Day 0 of a run under automatic control: VorlexF2AutoControlGosub430.
 void VorlexF2AutoControl(Session& session);
 

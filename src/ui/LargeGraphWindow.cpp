@@ -44,6 +44,7 @@ LargeGraphWindow::LargeGraphWindow(QWidget* parent) : QWidget(parent) {
 
   auto* side = new QVBoxLayout;
   side->addWidget(frame);
+  side->addWidget(button("cmdEfficacy"));
   side->addStretch();
   for (const char* name : {"cmdBand", "Command1", "Command4", "Command2"})
     side->addWidget(button(name));

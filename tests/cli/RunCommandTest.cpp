@@ -13,20 +13,6 @@ namespace {
 
 namespace fs = std::filesystem;
 
-std::size_t filesIn(const fs::path& dir) {
-  return static_cast<std::size_t>(std::distance(fs::directory_iterator(dir), fs::directory_iterator()));
-}
-
-TEST(RunCommand, AStrategyNotInThisBuildIsRefusedBeforeAnythingIsWritten) {
-  RunFolder folder("run-refused");
-  const std::string data = folder.copy(dataPath("tiny3.txt"), "tiny3.txt");
-  const CliResult result = runCli("run " + quoted(data) + " --strategy optimize-first", folder.dir().string());
-  EXPECT_EQ(result.status, 2);
-  EXPECT_EQ(result.out, "");
-  EXPECT_NE(result.err.find("'optimize-first' (OptOptimize1stControl) is not available"), std::string::npos);
-  EXPECT_EQ(filesIn(folder.dir()), 1u);
-}
-
 TEST(RunCommand, ExtinctionIsToldAndTheRunEndsNormally) {
   RunFolder folder("run-extinct");
   // Without fecundity the last individuals are gone after age 3.
@@ -74,17 +60,14 @@ namespace {
 
 // The help names a strategy before "still to come" exactly when this build
 // runs it.
-TEST(RunCommand, HelpSaysWhichStrategiesRun) {
+TEST(RunCommand, HelpNamesEveryStrategyAndEachRuns) {
   const std::string usage = cli::kRunUsage;
-  const auto toCome = usage.find("still to come");
-  ASSERT_NE(toCome, std::string::npos);
   const std::pair<const char*, int> strategies[] = {
       {"no-control", 1}, {"predefined", 2}, {"auto-et", 3}, {"optimize-first", 4}, {"optimize-interval", 5},
       {"harvest", 6},    {"lambda", 7},     {"predation", 8}, {"extra-mortality", 9}};
   for (const auto& [name, option] : strategies) {
-    const auto at = usage.find(name);
-    ASSERT_NE(at, std::string::npos) << name;
-    EXPECT_EQ(at < toCome, MainForm::hasDriver(MainForm::optManagementOf(option))) << name;
+    EXPECT_NE(usage.find(name), std::string::npos) << name;
+    EXPECT_TRUE(MainForm::hasDriver(MainForm::optManagementOf(option))) << name;
   }
 }
 

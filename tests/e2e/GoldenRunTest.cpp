@@ -192,6 +192,8 @@ const GoldenCase kCases[] = {
     {"moth-predefined", "moth.txt", "predefined", 60, {}},
     {"moth-predefined-overlap", "moth-controls.txt", "predefined", 20, {"Do you need flow record?=Yes"}},
     {"moth-auto-et", "moth.txt", "auto-et", 60, {}},
+    {"moth-optimize-first", "moth.txt", "optimize-first", 60, {}},
+    {"moth-controls-optimize-interval", "moth-controls.txt", "optimize-interval", 20, {"Do you need flow record?=Yes"}},
     {"moth-auto-et-steps", "moth-auto.txt", "auto-et", 40, {}},
     {"moth-harvest", "moth.txt", "harvest", 60, {}},
     {"moth-cxj-harvest-from-0",
@@ -341,6 +343,17 @@ INSTANTIATE_TEST_SUITE_P(Sessions, GoldenRun, ::testing::ValuesIn(kCases), [](co
   std::replace(name.begin(), name.end(), '-', '_');
   return name;
 });
+
+// Optimising the first control projects the data file's schedule as the
+// predefined control does: the files of the projection are the same.
+TEST(GoldenRuns, TheFirstControlOptimisedProjectsAsThePredefinedSchedule) {
+  const fs::path golden = fs::path(VORLEX_TEST_DATA_DIR) / "golden";
+  for (const char* name : {"moth-1A-Fig-Stage size.txt", "moth-2A-Fig-Total size.txt", "moth-4A-Fig-Vulnerable size.txt",
+                           "moth-5A-Fig-Stage death.txt", "moth-8-Fig-Total difference.txt"})
+    EXPECT_EQ(fileText((golden / "moth-optimize-first" / name).string()),
+              fileText((golden / "moth-predefined" / name).string()))
+        << name;
+}
 
 } // namespace
 } // namespace vorlex::testing

@@ -114,13 +114,13 @@ struct Clicked {
   QString largeChartTitle() { return desktop.largeGraphWindow().chart()->chart()->title(); }
   bool shows(const char* form) { return desktop.formWindow(form)->isVisible(); }
 
-  void runNoControl(const char* simTime = "30") {
+  void runNoControl(const char* simTime = "30", const char* option = "Option1") {
     QLineEdit* time = main<QLineEdit>("txtSimuT");
     time->clear();
     QTest::keyClicks(time, QString::fromLatin1(simTime));
     click("Command2");
     click("cmdInputLTdata");
-    click("Option1");
+    click(option);
     click("cmdRun");
   }
 };
@@ -307,20 +307,17 @@ private slots:
     QCOMPARE(s.main<QLineEdit>("txtIntrinsicRate")->text(), QStringLiteral(".1332"));
     QCOMPARE(s.main<QLineEdit>("txtFecundity")->text(), QStringLiteral("249.989"));
     QCOMPARE(s.main<QLineEdit>("txtLastAge")->text(), QStringLiteral("45"));
-    for (const char* on : {"Frame4", "Option1", "Option2", "Option3", "Option6", "Option9",
+    for (const char* on : {"Frame4", "Option1", "Option2", "Option3", "Option4", "Option5", "Option6", "Option9",
                            "cmdStageSamplingData", "cmdStageProjection"})
       QVERIFY2(s.enabled(on), on);
-    // Strategies without a driver in this build, and the two never enabled.
-    for (const char* off : {"Option4", "Option5", "cmdInputLTdata", "Command2", "Command3", "cmdRun"})
+    for (const char* off : {"cmdInputLTdata", "Command2", "Command3", "cmdRun"})
       QVERIFY2(!s.enabled(off), off);
 
     s.click("Option1");
     QVERIFY(s.enabled("cmdRun"));
-    // Only a strategy this build cannot run says so.
-    QCOMPARE(s.main("Option1")->toolTip(), QString());
-    QCOMPARE(s.main("Option2")->toolTip(), QString());
-    QCOMPARE(s.main("Option4")->toolTip(),
-             QStringLiteral("This strategy is not available in this version of Vorlex yet."));
+    // Every strategy has its driver: none says it is not available.
+    for (const char* option : {"Option1", "Option2", "Option4", "Option5"})
+      QVERIFY2(s.main(option)->toolTip().isEmpty(), option);
     QVERIFY(!s.enabled("Frame4") && !s.enabled("Option9"));
 
     s.click("cmdRun");
@@ -450,7 +447,8 @@ private slots:
         "0,0,0\r\n1,3,.6\r\n2,5,.77\r\n3,400,2.6\r\n";
     const QString predationTitle = QString::fromLatin1(kPredationFileDialogTitle);
     for (const Case& c :
-         {Case{"Option2", "predefined"}, Case{"Option3", "auto-et"}, Case{"Option6", "harvest"},
+         {Case{"Option2", "predefined"}, Case{"Option3", "auto-et"}, Case{"Option4", "optimize-first"},
+          Case{"Option5", "optimize-interval"}, Case{"Option6", "harvest"},
           Case{"Option7", "lambda"}, Case{"Option8", "predation"}}) {
       const QByteArray strategy(c.strategy);
       QTemporaryDir cliDir;
@@ -634,6 +632,21 @@ private slots:
         Qt::LeftButton);
     QCOMPARE(s.ended.size(), 1);
     QCOMPARE(s.ended.first().first().toInt(), 0);
+  }
+
+  void largeGraphsDrawTheEfficacyAfterAnOptimisation() {
+    Clicked s;
+    s.runNoControl("30", "Option4");
+    s.click("Command4");
+    auto* efficacy =
+        s.desktop.largeGraphWindow().findChild<QAbstractButton*>(QStringLiteral("cmdEfficacy"));
+    QVERIFY(efficacy && efficacy->isEnabled());
+    QCOMPARE(efficacy->text(), QStringLiteral("Efficacy of treatment"));
+    s.clickLarge("cmdEfficacy");
+    QCOMPARE(s.largeChartTitle(), QStringLiteral("Control efficacy of a treatment at time T"));
+    QApplication::processEvents();
+    QVERIFY(s.desktop.largeGraphWindow().grab().save(
+        testing::screenshotPath(QStringLiteral("large-graphs-efficacy.png"))));
   }
 
   void informationScreensGoBackAndQuitEndsThroughTheClosingScreen() {

@@ -2,6 +2,7 @@
 #include "charts/ChartFixture.h"
 #include "mainform/Forms.h"
 
+#include <optional>
 #include <string>
 #include <vector>
 
@@ -110,6 +111,40 @@ TEST_F(LargeGraphFormRun, LoadShowsTheStageChart) {
   EXPECT_EQ(session.largeChart.y(1, 1), 100); // Eggs on day 0
   EXPECT_EQ(session.largeChart.y(3, 2), 20);  // Male on day 1
   EXPECT_TRUE(control(kLargeChart).visible);
+}
+
+// The efficacy button is enabled by an optimisation's efficacy rows; its
+// chart shows each efficacy on the days it has one, a curve with fewer days
+// staying on its last one, and leaves out a curve without any.
+TEST_F(LargeGraphFormRun, TheEfficacyButtonDrawsTheEfficaciesOfTheDays) {
+  form.Form_Load();
+  EXPECT_FALSE(control("grafform.cmdEfficacy").enabled);
+  EXPECT_EQ(control("grafform.cmdEfficacy").caption, "Efficacy of treatment");
+
+  auto day = [](int t, std::optional<double> abbott, std::optional<double> hendersonTilton) {
+    EfficacyRow row;
+    row.day = t;
+    row.abbottEfficacy = abbott;
+    row.hendersonTiltonEfficacy = hendersonTilton;
+    return row;
+  };
+  session.efficacy = {day(1, 20, -5), day(2, std::nullopt, 40), day(3, 60, 50), day(4, -300, std::nullopt),
+                     day(5, std::nullopt, 70)};
+  m.TimeUnit = .5;
+  form.Form_Load();
+  ASSERT_TRUE(control("grafform.cmdEfficacy").enabled);
+  form.clickChartButton("cmdEfficacy");
+  const ChartContent& chart = session.largeChart;
+  ASSERT_EQ(chart.seriesCount(), 2);
+  ASSERT_EQ(chart.rowCount(), 4);
+  EXPECT_EQ(chart.label(1), "Abbott");
+  EXPECT_EQ(chart.label(2), "Henderson-Tilton");
+  const std::vector<double> expected{.5, 20, .5, -5, 1.5, 60, 1, 40, 2, -300, 1.5, 50, 2, -300, 2.5, 70};
+  std::vector<double> shown;
+  for (int row = 1; row <= 4; ++row)
+    for (int column = 1; column <= 4; ++column)
+      shown.push_back(chart.at(row, column));
+  EXPECT_EQ(shown, expected);
 }
 
 TEST_F(LargeGraphFormRun, BackQuitAndCloseLeaveForOtherForms) {

@@ -107,10 +107,8 @@ TEST_F(MainFormForms, AStrategyCanBeChosenWhenItsOptionIsOnAndItHasADriver) {
   EXPECT_FALSE(form.optionOpen(1)); // before the load
   load();
   EXPECT_TRUE(form.optionOpen(1));
-  for (int option : {2, 3, 6, 7, 8, 9})
+  for (int option = 2; option <= 9; ++option)
     EXPECT_TRUE(form.optionOpen(option)) << option;
-  for (int option : {4, 5})
-    EXPECT_FALSE(form.optionOpen(option)) << option;
   form.Option9_Click();
   EXPECT_FALSE(form.optionOpen(1)); // the frame is locked after a choice
 }

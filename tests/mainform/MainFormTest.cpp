@@ -66,10 +66,10 @@ TEST_F(MainFormSession, StepsUnlockOneAnotherInOrder) {
 
   form.cmdInputLTdata_Click();
   for (const char* name :
-       {"Frame4", "Option1", "Option2", "Option3", "Option6", "Option7", "Option8", "Option9",
-        "cmdStageSamplingData", "cmdStageProjection", "cmdProjectionAfterSampling", "MSChart1"})
+       {"Frame4", "Option1", "Option2", "Option3", "Option4", "Option5", "Option6", "Option7", "Option8",
+        "Option9", "cmdStageSamplingData", "cmdStageProjection", "cmdProjectionAfterSampling", "MSChart1"})
     EXPECT_TRUE(isOn(name)) << name;
-  for (const char* name : {"Option4", "Option5", "cmdInputLTdata", "Command2", "Command3", "cmdRun"})
+  for (const char* name : {"cmdInputLTdata", "Command2", "Command3", "cmdRun"})
     EXPECT_FALSE(isOn(name)) << name;
 
   form.Option1_Click();
@@ -245,16 +245,6 @@ TEST_F(MainFormSession, ALateReleaseShowsItsOwnStageChart) {
   form.Option1_Click();
   form.cmdRun_Click();
   EXPECT_EQ(session.mainChart.title, "Stage size (release date: 2)");
-}
-
-TEST_F(MainFormSession, AStrategyWithoutDriverStopsTheRun) {
-  offer("tiny3.txt", "tiny3.txt");
-  form.Form_Load();
-  form.Command2_Click();
-  form.cmdInputLTdata_Click();
-  form.Option4_Click();
-  EXPECT_FALSE(MainForm::hasDriver("OptOptimize1stControl"));
-  EXPECT_EQ(errorOf([&] { form.cmdRun_Click(); }).number(), 5);
 }
 
 TEST_F(MainFormSession, TwoDifferentSayingsAreShown) {
