@@ -143,6 +143,9 @@ constexpr const char* kPredationFile =
 
 const GoldenCase kCases[] = {
     {"moth-no-control", "moth.txt", "no-control", 30, {}},
+    // A long run of a large table (tools/make_example.py beetle-long): 301
+    // ages, eight stages whose age ranges overlap, 300 days.
+    {"beetle-long-no-control", "beetle-long.txt", "no-control", 300, {}},
     {"moth-cxj-lag",
      "moth-cxj.txt",
      "no-control",
