@@ -4,14 +4,18 @@
 Each case starts `vorlex run` as a process of its own, many times over, in a
 temporary folder that holds a copy of its data file, and reports the
 minimum and median wall-clock time of the whole process (start, load, run,
-every file written, exit) and its peak resident memory.
+every file written, exit), the minimum and median processor time it took
+(user and system), and its peak resident memory as /usr/bin/time measures
+it (the peak a process forked from this script reports would be the
+script's own).
 
   largest   the largest table the program takes (LastAge 1004, 11 stages),
             built by tools/make_example.py, 1003 days, every file written
   example   the bundled example at 60 days
 
 On a shared machine the minimum says what the program costs, the median
-what a user waits; run it with many repetitions.
+what a user waits, and the processor time is the least disturbed by the
+others; run it with many repetitions.
 
 Usage: python3 bench/time_whole_runs.py [--vorlex PATH] [--runs N] [CASE ...]
 """
@@ -46,10 +50,13 @@ def data_file(name, folder):
     return folder / name
 
 
-def run_once(vorlex, path, sim_time):
-    """Wall-clock seconds and peak resident kilobytes of one whole run."""
-    command = [vorlex, "run", str(path), "--sim-time", str(sim_time),
-               "--date", "2026-11-22"]
+def command_of(vorlex, path, sim_time):
+    return [vorlex, "run", str(path), "--sim-time", str(sim_time),
+            "--date", "2026-11-22"]
+
+
+def run_once(command):
+    """Wall-clock and processor seconds of one whole run."""
     start = time.perf_counter()
     process = subprocess.Popen(command, stdout=subprocess.DEVNULL,
                                stderr=subprocess.PIPE)
@@ -61,7 +68,17 @@ def run_once(vorlex, path, sim_time):
     if process.returncode != 0:
         sys.exit("%s failed (%d): %s" % (" ".join(command), process.returncode,
                                          error))
-    return elapsed, usage.ru_maxrss
+    return elapsed, usage.ru_utime + usage.ru_stime
+
+
+def peak_kilobytes(command):
+    """Peak resident memory of one whole run, None without /usr/bin/time."""
+    if not Path("/usr/bin/time").exists():
+        return None
+    with tempfile.NamedTemporaryFile("r") as report:
+        subprocess.run(["/usr/bin/time", "-f", "%M", "-o", report.name]
+                       + command, check=True, stdout=subprocess.DEVNULL)
+        return int(report.read().split()[-1])
 
 
 def main():
@@ -79,23 +96,28 @@ def main():
     if unknown:
         parser.error("no case named %s" % ", ".join(unknown))
 
-    print("%-8s %5s %10s %10s %10s %6s" % ("case", "runs", "min ms",
-                                            "median ms", "peak MB",
-                                            "files"))
+    print("%-8s %5s %9s %9s %9s %9s %8s %6s" % (
+        "case", "runs", "wall min", "median", "cpu min", "median",
+        "peak MB", "files"))
     for case in args.cases or list(CASES):
         name, sim_time = CASES[case]
         with tempfile.TemporaryDirectory(prefix="vorlex-timing-") as folder:
-            path = data_file(name, Path(folder))
-            run_once(args.vorlex, path, sim_time)  # warms the file cache
-            times, peaks = [], []
+            command = command_of(args.vorlex, data_file(name, Path(folder)),
+                                 sim_time)
+            run_once(command)  # warms the file cache
+            walls, cpus = [], []
             for _ in range(args.runs):
-                elapsed, peak = run_once(args.vorlex, path, sim_time)
-                times.append(elapsed)
-                peaks.append(peak)
+                wall, cpu = run_once(command)
+                walls.append(wall)
+                cpus.append(cpu)
+            peaks = [peak_kilobytes(command) for _ in range(3)]
             files = len(os.listdir(folder)) - 1
-        print("%-8s %5d %10.2f %10.2f %10.1f %6d" % (
-            case, args.runs, 1000 * min(times),
-            1000 * statistics.median(times), max(peaks) / 1024, files))
+        peak = "-" if None in peaks else "%.1f" % (max(peaks) / 1024)
+        print("%-8s %5d %9.2f %9.2f %9.2f %9.2f %8s %6d" % (
+            case, args.runs, 1000 * min(walls),
+            1000 * statistics.median(walls), 1000 * min(cpus),
+            1000 * statistics.median(cpus), peak, files))
+        sys.stdout.flush()
 
 
 if __name__ == "__main__":
