@@ -54,29 +54,44 @@ AgeWindows occupiedAges(int lastAge, int stages, const Cells& matrix) {
   return ages;
 }
 
+bool mostlyOccupied(int lastAge, int stages, const AgeWindows& ages) {
+  long cells = 0;
+  for (int j = 1; j <= stages; ++j)
+    cells += ages[j].empty() ? 0 : ages[j].last - ages[j].first + 1;
+  return 2 * cells >= static_cast<long>(lastAge + 1) * stages;
+}
+
 void developAgesInWindows(int lastAge, int stages, const Cells& growth, const Cells& develop,
                           const RateWindows& rates, const Cells& from, const AgeWindows& fromAges,
                           const Cells& to, AgeWindows& toAges, const PerStage& survival,
                           const PerStage& inflow) {
   const int m = stages;
   const AgeWindow rows{1, lastAge};
+  // Stayers come from the ages before that hold individuals of the stage
+  // and a growth rate; the inflow from those of the stage it develops out
+  // of with a developmental rate. Any other cell is a sum of products with
+  // a factor 0.
+  AgeWindows fed{};
   for (int j = 1; j <= m; ++j) {
-    // Stayers come from the ages before that hold individuals of the
-    // stage and a growth rate; the inflow from those of the stage it
-    // develops out of with a developmental rate. Any other cell is a sum
-    // of products with a factor 0.
-    AgeWindow fed = fromAges[j].within(rates.stay[j]).older();
+    fed[j] = fromAges[j].within(rates.stay[j]).older();
     const int source = j == m ? m - 2 : j - 1;
-    const int rate = j - 1;
     if (j > 1 && source >= 1)
-      fed = fed.joinedWith(fromAges[source].within(rates.move[rate]).older());
-    fed = fed.within(rows);
-
+      fed[j] = fed[j].joinedWith(fromAges[source].within(rates.move[j - 1]).older());
+    fed[j] = fed[j].within(rows);
+  }
+  // Where most of the matrix is occupied, the walk row by row over all of
+  // it is the faster.
+  if (mostlyOccupied(lastAge, stages, fed)) {
+    developAges(lastAge, stages, growth, develop, from, to, survival, inflow);
+    toAges = fed;
+    return;
+  }
+  for (int j = 1; j <= m; ++j) {
     const AgeWindow stale = toAges[j].within(rows);
     for (int x = stale.first; x <= stale.last; ++x)
-      if (!fed.holds(x))
+      if (!fed[j].holds(x))
         to(x, j) = 0;
-    for (int x = fed.first; x <= fed.last; ++x) {
+    for (int x = fed[j].first; x <= fed[j].last; ++x) {
       const double* n = from.row(x - 1);
       const double* g = growth.row(x - 1);
       const double* d = develop.row(x - 1);
@@ -87,7 +102,7 @@ void developAgesInWindows(int lastAge, int stages, const Cells& growth, const Ce
       else
         to(x, j) = (d[m - 1] * n[m - 2] + n[m] * g[m]) * survival[m];
     }
-    toAges[j] = fed;
+    toAges[j] = fed[j];
   }
 }
 

@@ -68,6 +68,10 @@ RateWindows rateWindowsOf(int lastAge, int stages, const Cells& growth, const Ce
 /// other than 0.
 AgeWindows occupiedAges(int lastAge, int stages, const Cells& matrix);
 
+/// Whether the windows hold half of the cells of ages 0..lastAge or more:
+/// a walk row by row over the whole matrix is then the faster.
+bool mostlyOccupied(int lastAge, int stages, const AgeWindows& ages);
+
 /// developAges for a matrix `from` that holds numbers only inside the
 /// windows `fromAges`, into a matrix `to` that holds numbers only inside
 /// `toAges`: every cell of rows 1..lastAge comes out as developAges makes

@@ -273,10 +273,21 @@ private:
   }
 
   void thinOut(const Cells& matrix, const AgeWindows& ages, double level) const {
+    if (dense(ages)) {
+      for (int x = 0; x <= lastAge_; ++x)
+        for (int j = 1; j <= stages_; ++j)
+          matrix(x, j) = (1 - density_(x, j) * level) * matrix(x, j);
+      return;
+    }
     for (int j = 1; j <= stages_; ++j)
       for (int x = ages[j].first; x <= ages[j].last; ++x)
         matrix(x, j) = (1 - density_(x, j) * level) * matrix(x, j);
   }
+
+  // Where the windows hold most of the matrix, walks go row by row over
+  // all of it: zeros add nothing, and the rows are stored one after the
+  // other.
+  bool dense(const AgeWindows& ages) const { return mostlyOccupied(lastAge_, stages_, ages); }
 
   void consume(int t) {
     if (!withCxj_)
@@ -296,11 +307,16 @@ private:
   // keeps that order for every age.
   void takeNextDay(int t, bool takeOver) {
     if (takeOver) {
-      for (int j = 1; j <= stages_; ++j) {
-        const AgeWindow cells = nAges_[j].joinedWith(nextAges_[j]);
-        for (int x = cells.first; x <= cells.last; ++x)
-          n_(x, j) = next_(x, j);
-      }
+      if (dense(nAges_) || dense(nextAges_))
+        for (int x = 0; x <= lastAge_; ++x)
+          for (int j = 1; j <= stages_; ++j)
+            n_(x, j) = next_(x, j);
+      else
+        for (int j = 1; j <= stages_; ++j) {
+          const AgeWindow cells = nAges_[j].joinedWith(nextAges_[j]);
+          for (int x = cells.first; x <= cells.last; ++x)
+            n_(x, j) = next_(x, j);
+        }
       nAges_ = nextAges_;
     }
     m_.TotalSize(t) = finite(sumAges(next_, nextAges_, ageSize_, t, m_.TotalSize(t)));
@@ -315,6 +331,17 @@ private:
   // Adds the ages of the matrix to their sizes of day t, and those sizes,
   // age by age, to `total`.
   double sumAges(const Cells& matrix, const AgeWindows& ages, const Cells& ageSize, int t, double total) {
+    if (dense(ages)) {
+      for (int x = 0; x <= lastAge_; ++x) {
+        const double* row = matrix.row(x);
+        double size = ageSize(x, t);
+        for (int j = 1; j <= stages_; ++j)
+          size += row[j];
+        ageSize(x, t) = size;
+        total += size;
+      }
+      return total;
+    }
     for (int x = 0; x <= lastAge_; ++x)
       sizes_[x] = ageSize(x, t);
     for (int j = 1; j <= stages_; ++j)
@@ -348,18 +375,31 @@ private:
       sizes[j] = m_.StageSize(j, t);
       deaths[j] = m_.StageDeath(t, j);
     }
-    for (int j = 1; j <= stages_; ++j) {
-      double size = sizes[j], death = deaths[j];
-      if (rules_.deaths)
-        for (int x = nextAges_[j].first; x <= nextAges_[j].last; ++x) {
-          size += next_(x, j);
-          death += next_(x, j) * death_(x, j);
+    if (dense(nextAges_)) {
+      // Each stage's sums side by side, each still age by age.
+      for (int x = 0; x <= lastAge_; ++x) {
+        const double* n = next_.row(x);
+        const double* rate = death_.row(x);
+        for (int j = 1; j <= stages_; ++j) {
+          sizes[j] += n[j];
+          if (rules_.deaths)
+            deaths[j] += n[j] * rate[j];
         }
-      else
-        for (int x = nextAges_[j].first; x <= nextAges_[j].last; ++x)
-          size += next_(x, j);
-      sizes[j] = size;
-      deaths[j] = death;
+      }
+    } else {
+      for (int j = 1; j <= stages_; ++j) {
+        double size = sizes[j], death = deaths[j];
+        if (rules_.deaths)
+          for (int x = nextAges_[j].first; x <= nextAges_[j].last; ++x) {
+            size += next_(x, j);
+            death += next_(x, j) * death_(x, j);
+          }
+        else
+          for (int x = nextAges_[j].first; x <= nextAges_[j].last; ++x)
+            size += next_(x, j);
+        sizes[j] = size;
+        deaths[j] = death;
+      }
     }
     PerStage physoSizes{};
     if (physogastry_) {
