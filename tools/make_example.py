@@ -283,6 +283,62 @@ APHID = Example(
 EXAMPLES = {example.name: example for example in (MOTH, LADYBEETLE, APHID)}
 
 
+# Long-lived tables, not bundled: the largest table the program takes, for
+# timing whole runs, and a smaller one of the same kind for a long golden
+# run. An egg stage, larval instars and a pupa share three quarters of the
+# life evenly, each overlapping its neighbours by a quarter of its length;
+# the adults live on to the last age.
+
+def long_lived(name, last_age, immature_count):
+    span = (3 * last_age // 4) // immature_count
+    overlap = span // 4
+    names = (["Egg"] + ["L%d" % k for k in range(1, immature_count - 1)]
+             + ["Pupa"])
+    stages, immature = [], []
+    first = 0
+    for stage in range(1, immature_count + 1):
+        ramp = stage * span - overlap
+        last = stage * span + overlap
+        weigh = 0 if stage in (1, immature_count) else 1
+        stages.append((first, last, names[stage - 1], weigh, 1))
+        width = last - ramp + 1
+        immature.append((constant(0.998),
+                         {age: (age - ramp + 1) / width
+                          for age in range(ramp, last + 1)}))
+        first = ramp + 1
+    stages += [(first, last_age, "Fema", 0.5, 0.5),
+               (first, last_age, "Male", 0.5, 0.5)]
+    adult_life = last_age - first
+    m = immature_count + 2
+    return Example(
+        name,
+        file_name=name + ".txt",
+        project=("Long-lived beetle", "2026-11-22", "Vorlex team"),
+        last_age=last_age,
+        stages=stages,
+        immature=immature,
+        male_share=0.5,
+        female_survival=(0.999, last_age - 150, 0.0033),
+        male_survival=(0.998, last_age - 150, 0.0033),
+        fecundity_shape=bell(first + adult_life // 3, adult_life / 6.0),
+        target_f=40.0,
+        # a few of every stage, in the middle of its ages
+        initial_population=[((s[0] + s[1]) // 2, stage, 20)
+                            for stage, s in enumerate(stages, start=1)],
+        weak_factors=[("Parasitoid or predator", [0] + [1] * (m - 1)),
+                      ("Rainfall", [0] + [0.5] * (m - 1))],
+        control_mortality=[0] + [0.9] * (m - 1),
+    )
+
+
+LONG_LIVED = {table.name: table for table in (
+    # the largest table: 1005 ages, nine immature stages and two sexes
+    long_lived("beetle-largest", 1004, 9),
+    # the table of the long golden run
+    long_lived("beetle-long", 300, 6),
+)}
+
+
 # ---------------------------------------------------------------------------
 # Life table
 # ---------------------------------------------------------------------------
@@ -402,9 +458,11 @@ def intrinsic_rate(ex, lx, mx):
         return sum(math.exp(-r * (age + 1)) * lm[age]
                    for age in range(ex.last_age + 1)) - 1.0
 
-    lo, hi = -1.0, 1.0
+    # exp(-r (x+1)) must stay within the double range at the last age
+    bound = min(1.0, 700.0 / (ex.last_age + 1))
+    lo, hi = -bound, bound
     if not (excess(lo) > 0.0 > excess(hi)):
-        raise ValueError("no root of the Euler-Lotka equation in [-1, 1]")
+        raise ValueError("no root of the Euler-Lotka equation in [-bound, bound]")
     while True:
         mid = (lo + hi) / 2.0
         if mid == lo or mid == hi:
@@ -999,18 +1057,21 @@ def main():
     parser = argparse.ArgumentParser(
         description="Build the example project data files.")
     parser.add_argument("names", nargs="*", metavar="NAME",
-                        help="examples to build: %s (default: all)"
-                        % ", ".join(EXAMPLES))
+                        help="examples to build: %s (default: all), "
+                        "or one of the long-lived tables that are not "
+                        "bundled: %s"
+                        % (", ".join(EXAMPLES), ", ".join(LONG_LIVED)))
     parser.add_argument("--out-dir", type=Path,
                         default=Path(__file__).resolve().parent.parent
                         / "examples",
                         help="folder of the files (default: examples/)")
     args = parser.parse_args()
-    unknown = [name for name in args.names if name not in EXAMPLES]
+    tables = dict(EXAMPLES, **LONG_LIVED)
+    unknown = [name for name in args.names if name not in tables]
     if unknown:
         parser.error("no example named %s" % ", ".join(unknown))
     for name in args.names or list(EXAMPLES):
-        build(EXAMPLES[name], args.out_dir)
+        build(tables[name], args.out_dir)
 
 
 if __name__ == "__main__":

@@ -38,6 +38,11 @@ double logGrowth(double now, double before) { return log10Plus1(now) - log10Plus
 // The records of a day are read from the next day's matrix: it equals
 // today's once taken over, and it is what they read on a day that keeps
 // the older matrix.
+// Individuals of a stage live only at the ages where the rates bring
+// them, so each matrix keeps, stage by stage, the window of ages outside
+// which it holds nothing but zeros, and the walks stay inside it: a cell
+// left out adds exactly 0 to a sum, which leaves the sum as it is. The
+// shadow matrix of physogastry keeps whole windows.
 class DayStep {
 public:
   DayStep(Session& session, const DayStepRules& rules)
@@ -50,6 +55,12 @@ public:
         physoAgeSize_(m_.PhysoAgeSize) {
     if (lastAge_ > m_.PopN.upper(0) || stages_ > m_.PopN.upper(1) || lastAge_ > m_.AgeSize.upper(0))
       raise(ErrorCode::SubscriptOutOfRange);
+    rates_ = rateWindowsOf(lastAge_, stages_, growth_, develop_);
+    nAges_ = occupiedAges(lastAge_, stages_, n_);
+    nextAges_ = occupiedAges(lastAge_, stages_, next_);
+    for (int j = 1; j <= stages_; ++j)
+      allAges_[j] = {0, lastAge_};
+    physoAges_ = allAges_;
     // Cells without fecundity add exactly nothing to the eggs of a day;
     // the fecundity table doesn't change during the run.
     for (int j = 1; j <= stages_; ++j)
@@ -216,13 +227,16 @@ private:
     if (echoSurvival_)
       for (int j = 1; j <= m; ++j)
         session_.flow("Day = ", t, "stage =", j, "Stage; survival; Rate = ", survival_[j]);
-    grow(n_, next_, inflow_);
-    if (physogastry_)
-      grow(physoN_, nextPhysoN_, kAllOnes);
-  }
-
-  void grow(const Cells& from, const Cells& to, const PerStage& inflow) const {
-    developAges(lastAge_, stages_, growth_, develop_, from, to, survival_, inflow);
+    developAgesInWindows(lastAge_, stages_, growth_, develop_, rates_, n_, nAges_, next_, nextAges_, survival_,
+                         inflow_);
+    // The newborns of the day.
+    if (stages_ >= 1)
+      nextAges_[1] = nextAges_[1].joinedWith({0, 0});
+    if (physogastry_) {
+      developAgesInWindows(lastAge_, stages_, growth_, develop_, rates_, physoN_, allAges_, nextPhysoN_,
+                           physoAges_, survival_, kAllOnes);
+      physoAges_ = allAges_;
+    }
   }
 
   // All ten release slots are looked at, whatever the number of releases;
@@ -240,38 +254,56 @@ private:
           if (physogastry_)
             nextPhysoN_(x, j) += m_.ReleaseN(r, x, j);
         }
+      // Released individuals may stand at any age.
+      nextAges_ = allAges_;
     }
   }
 
   void limitByCarryingCapacity(int t) {
     if (!carryingCapacityInForce(session_))
       return;
-    double weighed = 0;
-    double physoWeighed = 0;
-    for (int j = 1; j <= stages_; ++j)
-      for (int x = 0; x <= lastAge_; ++x) {
-        weighed += next_(x, j) * weigh_(x, j);
-        if (physogastry_)
-          physoWeighed += nextPhysoN_(x, j) * weigh_(x, j);
-      }
-    m_.WeighedSize(t) = weighed;
+    m_.WeighedSize(t) = weighedSum(next_, nextAges_);
     if (physogastry_)
-      m_.PhysoWeighedSize(t) = physoWeighed;
+      m_.PhysoWeighedSize(t) = weighedSum(nextPhysoN_, physoAges_);
     WorkOutDensityMortality(session_, t);
     const double level = m_.DensityMortality(t);
-    for (int x = 0; x <= lastAge_; ++x)
-      for (int j = 1; j <= stages_; ++j) {
-        next_(x, j) = (1 - density_(x, j) * level) * next_(x, j);
-        if (physogastry_)
-          nextPhysoN_(x, j) = (1 - density_(x, j) * level) * nextPhysoN_(x, j);
-      }
+    thinOut(next_, nextAges_, level);
+    if (physogastry_)
+      thinOut(nextPhysoN_, physoAges_, level);
   }
+
+  // Stage by stage, age by age.
+  double weighedSum(const Cells& matrix, const AgeWindows& ages) const {
+    double weighed = 0;
+    for (int j = 1; j <= stages_; ++j)
+      for (int x = ages[j].first; x <= ages[j].last; ++x)
+        weighed += matrix(x, j) * weigh_(x, j);
+    return weighed;
+  }
+
+  void thinOut(const Cells& matrix, const AgeWindows& ages, double level) const {
+    if (dense(ages)) {
+      for (int x = 0; x <= lastAge_; ++x)
+        for (int j = 1; j <= stages_; ++j)
+          matrix(x, j) = (1 - density_(x, j) * level) * matrix(x, j);
+      return;
+    }
+    for (int j = 1; j <= stages_; ++j)
+      for (int x = ages[j].first; x <= ages[j].last; ++x)
+        matrix(x, j) = (1 - density_(x, j) * level) * matrix(x, j);
+  }
+
+  // Where the windows hold most of the matrix, walks go row by row over
+  // all of it: zeros add nothing, and the rows are stored one after the
+  // other.
+  bool dense(const AgeWindows& ages) const { return mostlyOccupied(lastAge_, stages_, ages); }
 
   void consume(int t) {
     if (!withCxj_)
       return;
     double total = m_.TotalConsumption(t);
-    for (int x = 0; x <= lastAge_; ++x)
+    const AgeWindow rows = allStages(nextAges_);
+    for (int x = rows.first; x <= rows.last; ++x)
       for (int j = 1; j <= stages_; ++j)
         total += consumption_(x, j) * next_(x, j);
     m_.TotalConsumption(t) = total;
@@ -280,36 +312,63 @@ private:
 
   // The next day's matrix becomes today's (unless the variant keeps the
   // older one), and the sizes of its ages are summed in the same walk.
+  // The size of each age takes its stages in order; a walk stage by stage
+  // keeps that order for every age.
   void takeNextDay(int t, bool takeOver) {
-    double total = m_.TotalSize(t);
-    for (int x = 0; x <= lastAge_; ++x) {
-      const double* next = next_.row(x);
-      double* n = n_.row(x);
-      double size = ageSize_(x, t);
-      for (int j = 1; j <= stages_; ++j) {
-        if (takeOver)
-          n[j] = next[j];
-        size += next[j];
-      }
-      ageSize_(x, t) = size;
-      total += size;
+    if (takeOver) {
+      if (dense(nAges_) || dense(nextAges_))
+        for (int x = 0; x <= lastAge_; ++x)
+          for (int j = 1; j <= stages_; ++j)
+            n_(x, j) = next_(x, j);
+      else
+        for (int j = 1; j <= stages_; ++j) {
+          const AgeWindow cells = nAges_[j].joinedWith(nextAges_[j]);
+          for (int x = cells.first; x <= cells.last; ++x)
+            n_(x, j) = next_(x, j);
+        }
+      nAges_ = nextAges_;
     }
-    m_.TotalSize(t) = finite(total);
+    m_.TotalSize(t) = finite(sumAges(next_, nextAges_, ageSize_, t, m_.TotalSize(t)));
     if (!physogastry_)
       return;
-    double physoTotal = m_.PhysoTotalSize(t);
-    for (int x = 0; x <= lastAge_; ++x) {
-      const double* next = nextPhysoN_.row(x);
-      double* n = physoN_.row(x);
-      double size = physoAgeSize_(x, t);
-      for (int j = 1; j <= stages_; ++j) {
-        n[j] = next[j];
-        size += n[j];
+    for (int x = 0; x <= lastAge_; ++x)
+      for (int j = 1; j <= stages_; ++j)
+        physoN_(x, j) = nextPhysoN_(x, j);
+    m_.PhysoTotalSize(t) = sumAges(nextPhysoN_, physoAges_, physoAgeSize_, t, m_.PhysoTotalSize(t));
+  }
+
+  // Adds the ages of the matrix to their sizes of day t, and those sizes,
+  // age by age, to `total`.
+  double sumAges(const Cells& matrix, const AgeWindows& ages, const Cells& ageSize, int t, double total) {
+    if (dense(ages)) {
+      for (int x = 0; x <= lastAge_; ++x) {
+        const double* row = matrix.row(x);
+        double size = ageSize(x, t);
+        for (int j = 1; j <= stages_; ++j)
+          size += row[j];
+        ageSize(x, t) = size;
+        total += size;
       }
-      physoAgeSize_(x, t) = size;
-      physoTotal += size;
+      return total;
     }
-    m_.PhysoTotalSize(t) = physoTotal;
+    for (int x = 0; x <= lastAge_; ++x)
+      sizes_[x] = ageSize(x, t);
+    for (int j = 1; j <= stages_; ++j)
+      for (int x = ages[j].first; x <= ages[j].last; ++x)
+        sizes_[x] += matrix(x, j);
+    for (int x = 0; x <= lastAge_; ++x) {
+      ageSize(x, t) = sizes_[x];
+      total += sizes_[x];
+    }
+    return total;
+  }
+
+  // The ages that any stage may hold.
+  AgeWindow allStages(const AgeWindows& ages) const {
+    AgeWindow rows;
+    for (int j = 1; j <= stages_; ++j)
+      rows = rows.joinedWith(ages[j]);
+    return rows;
   }
 
   void recordStages(int t) {
@@ -325,21 +384,32 @@ private:
       sizes[j] = m_.StageSize(j, t);
       deaths[j] = m_.StageDeath(t, j);
     }
-    if (rules_.deaths)
+    if (dense(nextAges_)) {
+      // Each stage's sums side by side, each still age by age.
       for (int x = 0; x <= lastAge_; ++x) {
         const double* n = next_.row(x);
         const double* rate = death_.row(x);
         for (int j = 1; j <= stages_; ++j) {
           sizes[j] += n[j];
-          deaths[j] += n[j] * rate[j];
+          if (rules_.deaths)
+            deaths[j] += n[j] * rate[j];
         }
       }
-    else
-      for (int x = 0; x <= lastAge_; ++x) {
-        const double* n = next_.row(x);
-        for (int j = 1; j <= stages_; ++j)
-          sizes[j] += n[j];
+    } else {
+      for (int j = 1; j <= stages_; ++j) {
+        double size = sizes[j], death = deaths[j];
+        if (rules_.deaths)
+          for (int x = nextAges_[j].first; x <= nextAges_[j].last; ++x) {
+            size += next_(x, j);
+            death += next_(x, j) * death_(x, j);
+          }
+        else
+          for (int x = nextAges_[j].first; x <= nextAges_[j].last; ++x)
+            size += next_(x, j);
+        sizes[j] = size;
+        deaths[j] = death;
       }
+    }
     PerStage physoSizes{};
     if (physogastry_) {
       for (int j = 1; j <= stages_; ++j)
@@ -461,6 +531,10 @@ private:
   PerStage survival_{}; // R(j,t) of the day
   PerStage inflow_{};   // survival of the inflow under extra mortality
   std::vector<Fertile> fertile_;
+  RateWindows rates_;
+  AgeWindows nAges_{}, nextAges_{}; // where PopN and NextN may hold individuals
+  AgeWindows allAges_{}, physoAges_{};
+  std::array<double, kLastAgeSlot + 1> sizes_{}; // of every age, for the day
   Cells n_, next_, physoN_, nextPhysoN_;
   Cells growth_, develop_, fecundity_, death_, consumption_, weigh_, density_;
   Cells ageSize_, physoAgeSize_;

@@ -18,6 +18,9 @@ void VorlexAGosub640(Session& session) {
   for (int age = 0; age <= m.LastAge; ++age)
     for (int stage = 1; stage <= m.NrStage; ++stage)
       m.Lxj(age, stage) = 0;
+  // A projection fills the sizes of every age of the table on every day.
+  m.AgeSize.expectRowsUpTo(m.LastAge);
+  m.PhysoAgeSize.expectRowsUpTo(m.LastAge);
 }
 
 void workOutDeathRate(Session& session) {

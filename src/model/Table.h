@@ -15,10 +15,23 @@ namespace vorlex {
 
 namespace detail {
 
+/// Whether large tables take zeroed pages straight from the system.
+extern const bool kPagesFromTheSystem;
+/// Zeroed pages of at least `bytes`, touched only when written; null when
+/// the system has none.
+void* zeroPages(std::size_t bytes);
+/// Gives back what zeroPages handed out.
+void returnPages(void* pages, std::size_t bytes);
+/// Tells the system that the bytes from `first` on, handed out by
+/// zeroPages, will all be written soon: a span of several megabytes is
+/// then better served by large pages than by one page at a time.
+void expectWrites(void* first, std::size_t bytes);
+
 // The cells of a table. Numbers take memory that is zero until first
 // written: the system hands out zeroed pages on demand, so a table sized
 // for the largest case costs nothing for the part a smaller one never
-// touches. Texts and values are constructed as usual.
+// touches, neither time nor memory. Texts and values are constructed as
+// usual.
 template <typename T, bool = std::is_arithmetic_v<T>> class Storage {
 public:
   explicit Storage(std::size_t size) : cells_(size, T{}) {}
@@ -32,10 +45,10 @@ private:
 
 template <typename T> class Storage<T, true> {
 public:
-  explicit Storage(std::size_t size) : size_(size), cells_(allocate(size)) {}
+  explicit Storage(std::size_t size) : size_(size), cells_(allocate(size), Free{bytesOf(size)}) {}
   // A copy writes only the blocks that hold something: the rest of a large
   // table stays the zero memory it was handed, and costs nothing.
-  Storage(const Storage& other) : size_(other.size_), cells_(allocate(other.size_)) {
+  Storage(const Storage& other) : Storage(other.size_) {
     constexpr std::size_t kBlock = 4096 / sizeof(T);
     const T* from = other.data();
     T* to = data();
@@ -61,14 +74,34 @@ public:
   T* data() { return cells_.get(); }
   const T* data() const { return cells_.get(); }
   std::size_t size() const { return size_; }
+  /// The first `count` cells will all be written soon.
+  void expectWrites(std::size_t count) {
+    if (paged(bytesOf(size_)))
+      detail::expectWrites(data(), std::min(count, size_) * sizeof(T));
+  }
 
 private:
+  // From this size on the cells are pages of their own straight from the
+  // system: zero until first touched, and only the touched ones take
+  // memory. A smaller table comes from the heap, cleared.
+  static constexpr std::size_t kPagedBytes = 64 * 1024;
+
+  static std::size_t bytesOf(std::size_t size) { return (size == 0 ? 1 : size) * sizeof(T); }
+  static bool paged(std::size_t bytes) { return kPagesFromTheSystem && bytes >= kPagedBytes; }
+
   struct Free {
-    void operator()(T* cells) const { std::free(cells); }
+    std::size_t bytes;
+    void operator()(T* cells) const {
+      if (paged(bytes))
+        returnPages(cells, bytes);
+      else
+        std::free(cells);
+    }
   };
   static T* allocate(std::size_t size) {
     // All-zero bytes are the number 0 for every arithmetic type used here.
-    void* cells = std::calloc(size == 0 ? 1 : size, sizeof(T));
+    const std::size_t bytes = bytesOf(size);
+    void* cells = paged(bytes) ? zeroPages(bytes) : std::calloc(bytes, 1);
     if (!cells)
       throw std::bad_alloc();
     return static_cast<T*>(cells);
@@ -102,6 +135,15 @@ public:
 
   /// The upper bound of a dimension (from 0).
   int upper(std::size_t dimension = 0) const { return upper_[dimension]; }
+  /// Says that the cells up to the given last row (the first index) will
+  /// be written: a large table then takes its memory in large pieces,
+  /// which the system hands out much faster than page by page.
+  void expectRowsUpTo(int lastRow)
+    requires std::is_arithmetic_v<T>
+  {
+    if (lastRow >= 0 && lastRow <= upper_[0])
+      cells_.expectWrites((static_cast<std::size_t>(lastRow) + 1) * (cells_.size() / (upper_[0] + 1u)));
+  }
   void fill(const T& value) { std::fill(cells_.data(), cells_.data() + cells_.size(), value); }
 
 private:

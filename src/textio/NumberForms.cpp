@@ -6,6 +6,7 @@
 #include <cmath>
 #include <cstdio>
 #include <cstdlib>
+#include <algorithm>
 
 namespace vorlex {
 
@@ -20,53 +21,101 @@ bool isBlank(char c) { return c == ' ' || c == '\t'; }
 
 } // namespace
 
-std::string digits(double value) {
-  if (value == 0.0 || std::isnan(value))
-    return "0";
+namespace {
+constexpr std::size_t kDigitsRoom = kNumberTextRoom - 1;
+}
+
+std::size_t writeDigits(double value, char* out) {
+  if (value == 0.0 || std::isnan(value)) {
+    out[0] = '0';
+    return 1;
+  }
   if (std::isinf(value))
     raise(ErrorCode::Overflow);
 
-  // 15 significant digits, correctly rounded: "d.dddddddddddddde+XX".
-  char buffer[40];
-  const auto written = std::to_chars(buffer, buffer + sizeof buffer - 1, std::fabs(value),
-                                     std::chars_format::scientific, 14);
-  *written.ptr = '\0';
-  std::string mantissa;
-  const char* p = buffer;
+  // The significant digits and the decimal exponent of the value correctly
+  // rounded to 15 significant digits: "d.dddddddddddddde+XX".
+  char text[kDigitsRoom];
+  const auto written =
+      std::to_chars(text, text + sizeof text, std::fabs(value), std::chars_format::scientific, 14);
+  char mantissa[20];
+  std::size_t count = 0;
+  const char* p = text;
   for (; *p != 'e'; ++p)
     if (*p != '.')
-      mantissa += *p;
-  const int exponent = std::atoi(p + 1);
-  while (mantissa.size() > 1 && mantissa.back() == '0')
-    mantissa.pop_back();
+      mantissa[count++] = *p;
+  int exponent = 0;
+  std::from_chars(p + (p[1] == '+' ? 2 : 1), written.ptr, exponent);
+  while (count > 1 && mantissa[count - 1] == '0')
+    --count;
 
-  std::string out = value < 0 ? "-" : "";
+  char* o = out;
+  if (value < 0)
+    *o++ = '-';
   if (exponent < kSmallestFixedExponent || exponent > kLargestFixedExponent) {
-    out += mantissa[0];
-    if (mantissa.size() > 1) {
-      out += '.';
-      out.append(mantissa, 1);
+    *o++ = mantissa[0];
+    if (count > 1) {
+      *o++ = '.';
+      o = std::copy(mantissa + 1, mantissa + count, o);
     }
-    char tail[16];
-    std::snprintf(tail, sizeof tail, "E%c%02d", exponent < 0 ? '-' : '+', std::abs(exponent));
-    return out + tail;
+    *o++ = 'E';
+    *o++ = exponent < 0 ? '-' : '+';
+    const int size = std::abs(exponent);
+    if (size < 10)
+      *o++ = '0';
+    o = std::to_chars(o, out + kDigitsRoom, size).ptr;
+    return static_cast<std::size_t>(o - out);
   }
-  if (exponent < 0)
-    return out + "." + std::string(static_cast<std::size_t>(-exponent - 1), '0') + mantissa;
+  if (exponent < 0) {
+    *o++ = '.';
+    o = std::fill_n(o, -exponent - 1, '0');
+    o = std::copy(mantissa, mantissa + count, o);
+    return static_cast<std::size_t>(o - out);
+  }
   const auto integerDigits = static_cast<std::size_t>(exponent) + 1;
-  if (mantissa.size() <= integerDigits)
-    return out + mantissa + std::string(integerDigits - mantissa.size(), '0');
-  return out + mantissa.substr(0, integerDigits) + "." + mantissa.substr(integerDigits);
+  if (count <= integerDigits) {
+    o = std::copy(mantissa, mantissa + count, o);
+    o = std::fill_n(o, integerDigits - count, '0');
+    return static_cast<std::size_t>(o - out);
+  }
+  o = std::copy(mantissa, mantissa + integerDigits, o);
+  *o++ = '.';
+  o = std::copy(mantissa + integerDigits, mantissa + count, o);
+  return static_cast<std::size_t>(o - out);
+}
+
+std::size_t writeBlankLed(double value, char* out) {
+  // A blank takes the place of the sign of a number that is not negative.
+  const std::size_t size = writeDigits(value, out + 1);
+  if (out[1] == '-') {
+    std::copy(out + 1, out + 1 + size, out);
+    return size;
+  }
+  out[0] = ' ';
+  return size + 1;
+}
+
+std::string digits(double value) {
+  char text[kDigitsRoom];
+  return std::string(text, writeDigits(value, text));
 }
 
 std::string blankLed(double value) {
-  std::string text = digits(value);
-  return text[0] == '-' ? text : " " + text;
+  char text[kDigitsRoom + 1];
+  return std::string(text, writeBlankLed(value, text));
 }
 
-std::string stripped(double value) { return blankLed(value).substr(1); }
+std::string stripped(double value) {
+  char text[kDigitsRoom + 1];
+  return std::string(text + 1, writeBlankLed(value, text) - 1);
+}
 
-std::string printForm(double value) { return blankLed(value) + " "; }
+std::string printForm(double value) {
+  char text[kDigitsRoom + 2];
+  const std::size_t size = writeBlankLed(value, text);
+  text[size] = ' ';
+  return std::string(text, size + 1);
+}
 
 double roundHalfEven(double value) {
   // The default floating-point environment rounds to nearest, ties to even.

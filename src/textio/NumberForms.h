@@ -1,5 +1,6 @@
 #pragma once
 
+#include <cstddef>
 #include <cstdint>
 #include <string>
 #include <string_view>
@@ -25,6 +26,14 @@ std::string blankLed(double value);
 std::string stripped(double value);
 /// The blank-led form with one blank behind, as a print line writes numbers.
 std::string printForm(double value);
+
+/// Room for any of the forms above: a buffer of this many characters
+/// takes what writeDigits or writeBlankLed write, and one blank more.
+inline constexpr std::size_t kNumberTextRoom = 34;
+/// The digits into `out`, without an allocation; the characters written.
+std::size_t writeDigits(double value, char* out);
+/// The blank-led form into `out`; the characters written.
+std::size_t writeBlankLed(double value, char* out);
 
 /// Rounds to the nearest integer, ties to the even one.
 double roundHalfEven(double value);

@@ -104,10 +104,20 @@ void OutputFile::writeItem(const Value& value, bool first) {
     writeItem(value.toText(), first);
 }
 
+void OutputFile::putNumber(double number) {
+  char text[kNumberTextRoom];
+  const std::size_t size = writeBlankLed(number, text);
+  text[size] = ' ';
+  putText(std::string_view(text, size + 1));
+}
+
 void OutputFile::writeNumber(double number, bool first) {
+  char text[kNumberTextRoom + 1];
+  char* at = text;
   if (!first)
-    putText(",");
-  putText(digits(number));
+    *at++ = ',';
+  at += writeDigits(number, at);
+  putText(std::string_view(text, static_cast<std::size_t>(at - text)));
 }
 
 } // namespace vorlex

@@ -85,8 +85,9 @@ private:
   template <typename Number>
     requires std::integral<Number> || std::floating_point<Number>
   void put(Number number) {
-    putText(printForm(static_cast<double>(number)));
+    putNumber(static_cast<double>(number));
   }
+  void putNumber(double number);
 
   void writeItem(std::string_view text, bool first);
   void writeItem(const std::string& text, bool first) { writeItem(std::string_view(text), first); }

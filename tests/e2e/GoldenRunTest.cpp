@@ -158,6 +158,9 @@ const std::string kFileCode = "Enter a file code (percentile, treatment, etc.)";
 
 const GoldenCase kCases[] = {
     {"moth-no-control", "moth.txt", "no-control", 30, {}},
+    // A long run of a large table (tools/make_example.py beetle-long): 301
+    // ages, eight stages whose age ranges overlap, 300 days.
+    {"beetle-long-no-control", "beetle-long.txt", "no-control", 300, {}},
     {"moth-cxj-lag",
      "moth-cxj.txt",
      "no-control",

@@ -4,8 +4,13 @@
 
 #include <gtest/gtest.h>
 
+#include <bit>
+#include <cmath>
+#include <cstdint>
+#include <cstdio>
 #include <cstdlib>
 #include <random>
+#include <vector>
 #include <string>
 #include <utility>
 
@@ -92,6 +97,48 @@ TEST(NumberFormsDigits, FifteenDigitNumbersRoundTripExactly) {
     const std::string text = digits(value);
     ASSERT_EQ(numberEntry(text), value) << source << " written as " << text;
     ASSERT_FALSE(text.starts_with("0.") || text.starts_with("-0.")) << source << " written as " << text;
+  }
+}
+
+// The significant digits of a number's text: without sign, point,
+// exponent, leading and trailing zeros.
+std::string significantDigits(const std::string& text) {
+  std::string result;
+  for (char c : text.substr(0, text.find_first_of("eE"))) {
+    if (c >= '0' && c <= '9' && !(result.empty() && c == '0'))
+      result += c;
+  }
+  while (!result.empty() && result.back() == '0')
+    result.pop_back();
+  return result.empty() ? "0" : result;
+}
+
+// The digits are the value correctly rounded to 15 significant digits, as
+// printf's "%.14e" gives them, over the whole range of doubles: bit
+// patterns drawn at random, tiny numbers below the normal range, and
+// values next to the points where the 15th digit rounds up.
+TEST(NumberFormsDigits, FifteenCorrectlyRoundedDigitsForEveryDouble) {
+  std::mt19937_64 random(20261122);
+  std::vector<double> values = {5e-324, 2.2250738585072009e-308, 2.2250738585072014e-308, 1.7976931348623157e308,
+                                0.1, 9.9999999999999995e-5, 99999999999999.95, 999999999999999.4};
+  for (int i = 0; i < 100000; ++i) {
+    const std::uint64_t bits = random();
+    double value = std::bit_cast<double>(bits);
+    if (std::isfinite(value))
+      values.push_back(value);
+    // A 15-digit number and its neighbours, where a 16th digit decides.
+    value = std::ldexp(static_cast<double>(random() % 1000000000000000u + 1), static_cast<int>(random() % 80) - 40);
+    values.push_back(value);
+    values.push_back(std::nextafter(value, 0.0));
+    values.push_back(std::nextafter(value, 1e300));
+  }
+  for (const double value : values) {
+    char reference[40];
+    std::snprintf(reference, sizeof reference, "%.14e", value);
+    const std::string text = digits(value);
+    ASSERT_EQ(significantDigits(text), significantDigits(reference)) << reference << " written as " << text;
+    ASSERT_EQ(std::strtod(text.c_str(), nullptr), std::strtod(reference, nullptr))
+        << reference << " written as " << text;
   }
 }
 

@@ -1,0 +1,82 @@
+// The largest table the program takes, a long-lived beetle of 1005 ages,
+// nine immature stages and the two sexes (tools/make_example.py
+// beetle-largest): a whole session as a user clicks it, 1003 days with every
+// file written, and its projection alone.
+#include "ExampleRun.h"
+
+#include "engine/PopulationGrowth.h"
+#include "model/InitialCalculation.h"
+
+#include <benchmark/benchmark.h>
+
+#include <cstdlib>
+#include <filesystem>
+#include <string>
+
+namespace {
+
+namespace fs = std::filesystem;
+
+/// The table, built in a temporary folder of its own and removed again.
+class LargestTable {
+public:
+  explicit LargestTable(const std::string& folder) : dir_(fs::temp_directory_path() / folder) {
+    fs::create_directories(dir_);
+    const std::string command = "python3 '" + (fs::path(VORLEX_SOURCE_DIR) / "tools" / "make_example.py").string() +
+                                "' --out-dir '" + dir_.string() + "' beetle-largest >/dev/null";
+    built_ = std::system(command.c_str()) == 0;
+  }
+  ~LargestTable() { fs::remove_all(dir_); }
+  LargestTable(const LargestTable&) = delete;
+  LargestTable& operator=(const LargestTable&) = delete;
+
+  bool built() const { return built_; }
+  std::string dataFile() const { return (dir_ / "beetle-largest.txt").string(); }
+
+private:
+  fs::path dir_;
+  bool built_ = false;
+};
+
+constexpr int kDays = 1003;
+
+void BM_WholeRunOfTheLargestTable(benchmark::State& state) {
+  const LargestTable table("vorlex-bench-largest-run");
+  if (!table.built()) {
+    state.SkipWithError("tools/make_example.py could not build the table");
+    return;
+  }
+  vorlex::bench::DefaultAnswers answers(table.dataFile());
+  for (auto _ : state) {
+    vorlex::Session session(answers);
+    vorlex::bench::runWithoutControl(session, kDays);
+    benchmark::DoNotOptimize(session.model().TotalSize(kDays));
+  }
+}
+BENCHMARK(BM_WholeRunOfTheLargestTable)->Unit(benchmark::kMillisecond);
+
+// Day 0 is made again, with the timer stopped, before every projection.
+void BM_ProjectionOfTheLargestTable(benchmark::State& state) {
+  const LargestTable table("vorlex-bench-largest-projection");
+  if (!table.built()) {
+    state.SkipWithError("tools/make_example.py could not build the table");
+    return;
+  }
+  vorlex::bench::DefaultAnswers answers(table.dataFile());
+  vorlex::Session session(answers);
+  vorlex::MainForm form(session);
+  vorlex::bench::loadExample(form, session, kDays);
+  vorlex::Model& m = session.model();
+  for (auto _ : state) {
+    state.PauseTiming();
+    vorlex::VorlexBSetStageSurvivalRto1(session);
+    state.ResumeTiming();
+    vorlex::VorlexDGosub160PopulationGrowth(session);
+  }
+  if (m.Day != kDays + 2)
+    state.SkipWithError("the projection did not reach its last day");
+  session.files.closeAll();
+}
+BENCHMARK(BM_ProjectionOfTheLargestTable)->Unit(benchmark::kMillisecond);
+
+} // namespace
