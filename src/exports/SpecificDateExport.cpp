@@ -1,13 +1,9 @@
 #include "exports/SpecificDateExport.h"
 
 #include "model/Session.h"
-#include "reports/FigureTerms.h"
 #include "textio/NumberForms.h"
 
 namespace vorlex {
-
-using figures::adults;
-using figures::bare;
 
 namespace {
 
@@ -66,7 +62,7 @@ void writeTotal(Session& session, DateExport which, const Table1<double>& series
   if (exports.*member.armed != "Yes")
     return;
   const double value = series(exports.*member.day);
-  session.files.output(member.file).print(exports.*member.code, ",", bare(value));
+  session.files.output(member.file).print(exports.*member.code, ",", stripped(value));
   session.files.close(member.file);
 }
 
@@ -120,8 +116,8 @@ void writeStageSizesExport(Session& session) {
   const int day = session.exports.ExportDayStage;
   std::string line;
   for (int j = 1; j <= m.NrStage; ++j)
-    line.append(bare(m.StageSize(j, day))).append(",");
-  line.append(bare(adults(m, day)));
+    line.append(stripped(m.StageSize(j, day))).append(",");
+  line.append(stripped(m.StageSize(m.NrStage - 1, day) + m.StageSize(m.NrStage, day)));
   // The file stays open: a later run without a new click adds its line.
   session.files.output(kStageExportFile).print(line);
 }
