@@ -12,6 +12,10 @@ namespace vorlex::cli {
 /// status; run-time errors are left to the caller.
 int runCommand(const std::vector<std::string>& args, std::ostream& out, std::ostream& err);
 
+/// The option of the main form that `--strategy NAME` clicks, 1..9; 0 for a
+/// name that is no strategy.
+int strategyOption(const std::string& name);
+
 /// The help text of the run command.
 extern const char* const kRunUsage;
 
