@@ -56,7 +56,7 @@ for name in $targets; do
     failed="$failed $name"
   fi
   runs=$(sed -n 's/^stat::number_of_executed_units: *//p' "$log" | tail -n 1)
-  echo "fuzz_$name: ${runs:-?} inputs, $(ls "$corpus" | wc -l) in its corpus, $outcome"
+  echo "fuzz_$name: ${runs:-?} inputs, $(find "$corpus" -type f | wc -l) in its corpus, $outcome"
   if [ "$outcome" = FAILED ]; then
     grep -E "ERROR|SUMMARY|runtime error|Test unit written|terminate" "$log" | head -n 20 >&2
   fi
