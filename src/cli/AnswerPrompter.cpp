@@ -5,6 +5,8 @@
 #include <algorithm>
 #include <cctype>
 #include <fstream>
+#include <sstream>
+#include <utility>
 
 namespace vorlex::cli {
 
@@ -20,27 +22,19 @@ std::string lowered(std::string text) {
 
 } // namespace
 
-void AnswerPrompter::addAnswer(const std::string& titleAndValue) {
-  const auto equals = titleAndValue.rfind('=');
-  if (equals == std::string::npos || equals == 0)
-    throw AnswerError("an answer is written TITLE=VALUE, not '" + titleAndValue + "'");
-  answers_[titleAndValue.substr(0, equals)].push_back(titleAndValue.substr(equals + 1));
-}
+void AnswerPrompter::addAnswer(const std::string& titleAndValue) { add(answerOf(titleAndValue)); }
 
 void AnswerPrompter::addAnswersFromFile(const std::string& path) {
-  std::ifstream in(path);
+  std::ifstream in(path, std::ios::binary);
   if (!in)
     throw AnswerError("cannot read the answers file '" + path + "'");
-  std::string line;
-  while (std::getline(in, line)) {
-    if (!line.empty() && line.back() == '\r')
-      line.pop_back();
-    const auto start = line.find_first_not_of(" \t");
-    if (start == std::string::npos || line[start] == '#')
-      continue;
-    addAnswer(line);
-  }
+  std::ostringstream text;
+  text << in.rdbuf();
+  for (Answer& answer : answersOf(text.str()))
+    add(std::move(answer));
 }
+
+void AnswerPrompter::add(Answer answer) { answers_[std::move(answer.title)].push_back(std::move(answer.value)); }
 
 void AnswerPrompter::answerFirst(const std::string& title, const std::string& value) {
   answers_[title].push_front(value);

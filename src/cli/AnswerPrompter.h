@@ -1,21 +1,17 @@
 #pragma once
 
+#include "textio/AnswerLines.h"
 #include "textio/Prompter.h"
 
 #include <deque>
 #include <map>
 #include <ostream>
-#include <stdexcept>
 #include <string>
 #include <vector>
 
 namespace vorlex::cli {
 
-/// An answer given on the command line that can't be used.
-class AnswerError : public std::runtime_error {
-public:
-  using std::runtime_error::runtime_error;
-};
+using vorlex::AnswerError;
 
 /// Answers every prompt by its title with the answers given on the command
 /// line, and prints each prompt with the answer it used.
@@ -27,12 +23,12 @@ class AnswerPrompter : public Prompter {
 public:
   explicit AnswerPrompter(std::ostream& out) : out_(out) {}
 
-  /// "Title=Value": the value is what follows the last "=", since titles
-  /// may hold "=" themselves ("Each time unit =?=0.5").
+  /// "Title=Value", as answerOf reads it.
   void addAnswer(const std::string& titleAndValue);
-  /// One "Title=Value" a line; empty lines and lines starting with # are
-  /// passed over.
+  /// The answers of a file, as answersOf reads them.
   void addAnswersFromFile(const std::string& path);
+  /// Adds an answer after those given for the same title.
+  void add(Answer answer);
   /// Puts an answer ahead of those given for the same title.
   void answerFirst(const std::string& title, const std::string& value);
   /// Whether an answer for a title is still waiting to be used.

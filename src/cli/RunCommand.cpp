@@ -106,6 +106,11 @@ const Strategy* findStrategy(const std::string& name) {
 
 } // namespace
 
+int strategyOption(const std::string& name) {
+  const Strategy* strategy = findStrategy(name);
+  return strategy ? strategy->option : 0;
+}
+
 int runCommand(const std::vector<std::string>& args, std::ostream& out, std::ostream& err,
                const AfterRun& afterRun) {
   RunOptions options;

@@ -23,6 +23,10 @@ using AfterRun = std::function<int(Session& session)>;
 int runCommand(const std::vector<std::string>& args, std::ostream& out, std::ostream& err,
                const AfterRun& afterRun = {});
 
+/// The option of the main form that `--strategy NAME` clicks, 1..9; 0 for a
+/// name that clicks no option: after-sampling, or no strategy at all.
+int strategyOption(const std::string& name);
+
 /// The help text of the run command.
 extern const char* const kRunUsage;
 

@@ -1,0 +1,33 @@
+#!/bin/sh
+# The second build of CI: the core, the command line and the tests built by
+# clang with AddressSanitizer and UndefinedBehaviorSanitizer into
+# build-sanitize/, the tests run under them, then every fuzz target for a
+# fixed number of inputs (tests/fuzz/fuzz.sh). The desktop program is left
+# out: Qt itself is not built with the sanitizers.
+#
+#   sh scripts/sanitize.sh [INPUTS]    INPUTS per fuzz target (default 1000)
+set -eu
+inputs=${1:-1000}
+cd "$(dirname "$0")/.."
+
+packages="clang-14 libclang-rt-14-dev"
+missing=""
+for package in $packages; do
+  dpkg -s "$package" >/dev/null 2>&1 || missing="$missing $package"
+done
+if [ -n "$missing" ]; then
+  as_root=""
+  [ "$(id -u)" -eq 0 ] || as_root="sudo"
+  $as_root apt-get update
+  # shellcheck disable=SC2086
+  DEBIAN_FRONTEND=noninteractive $as_root apt-get install -y --no-install-recommends $missing
+fi
+
+# -O1 with line tables: quick to build, stack traces with lines, and
+# assertions on.
+CC=clang-14 CXX=clang++-14 cmake -S . -B build-sanitize -DCMAKE_BUILD_TYPE=Release \
+  "-DCMAKE_CXX_FLAGS_RELEASE=-O1 -gline-tables-only" -DVORLEX_BUILD_GUI=OFF -DVORLEX_BUILD_BENCH=OFF \
+  -DVORLEX_SANITIZE=ON -DVORLEX_BUILD_FUZZ=ON
+cmake --build build-sanitize -j"$(nproc)"
+ctest --test-dir build-sanitize --output-on-failure -j"$(nproc)"
+sh tests/fuzz/fuzz.sh build-sanitize --runs "$inputs"
