@@ -51,7 +51,8 @@ TEST(Table, CopiesAreTablesOfTheirOwn) {
 }
 
 TEST(Table, IndexOutsideTheBoundsStopsWithSubscriptOutOfRange) {
-  for (const auto [rows, columns] : kSizes) {
+  for (const auto& size : kSizes) {
+    const int rows = size.rows, columns = size.columns;
     Table2<double> table(rows, columns);
     EXPECT_EQ(raisedCode([&] { table(rows + 1, 0) = 1; }), static_cast<int>(ErrorCode::SubscriptOutOfRange));
     EXPECT_EQ(raisedCode([&] { table(0, columns + 1) = 1; }), static_cast<int>(ErrorCode::SubscriptOutOfRange));
