@@ -83,6 +83,22 @@ void loadForm(MainForm& form, Session& session, AnswerPrompter& prompter, const 
   form.cmdInputLTdata_Click();
 }
 
+// The load, then the click of `button`, with the files closed after; false
+// (the answer's error told) when an answer given does not fit a question.
+bool loadAndClick(MainForm& form, Session& session, AnswerPrompter& prompter, const Options& options,
+                  void (MainForm::*button)(), std::ostream& err) {
+  try {
+    loadForm(form, session, prompter, options);
+    (form.*button)();
+  } catch (const AnswerError& error) {
+    session.files.closeAll();
+    err << "vorlex: " << error.what() << '\n';
+    return false;
+  }
+  session.files.closeAll();
+  return true;
+}
+
 void warnUnused(const AnswerPrompter& prompter, std::ostream& err) {
   for (const std::string& title : prompter.unusedAnswers())
     err << "vorlex: warning: the answer for '" << title << "' was not asked for\n";
@@ -127,15 +143,8 @@ int samplingCommand(const std::vector<std::string>& args, std::ostream& out, std
 
   Session session(prompter);
   MainForm form(session);
-  try {
-    loadForm(form, session, prompter, options);
-    form.cmdStageSamplingData_Click();
-  } catch (const AnswerError& error) {
-    session.files.closeAll();
-    err << "vorlex: " << error.what() << '\n';
+  if (!loadAndClick(form, session, prompter, options, &MainForm::cmdStageSamplingData_Click, err))
     return 2;
-  }
-  session.files.closeAll();
 
   // The chart holds a row per day; without any sampled stage only the days.
   const ChartContent& chart = form.sampling().chart();
@@ -166,15 +175,8 @@ int predictCommand(const std::vector<std::string>& args, std::ostream& out, std:
 
   Session session(prompter);
   MainForm form(session);
-  try {
-    loadForm(form, session, prompter, options);
-    form.cmdStageProjection_Click();
-  } catch (const AnswerError& error) {
-    session.files.closeAll();
-    err << "vorlex: " << error.what() << '\n';
+  if (!loadAndClick(form, session, prompter, options, &MainForm::cmdStageProjection_Click, err))
     return 2;
-  }
-  session.files.closeAll();
 
   const SamplingTables& t = form.sampling().tables();
   out << "Predicted emergence: stage " << t.PredictStage << " (" << session.model().StageName(t.PredictStage)

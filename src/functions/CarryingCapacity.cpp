@@ -13,13 +13,16 @@ namespace {
 int lastDay(const Model& m) { return checkedInt16(m.SimTime + 1); }
 
 // The x of day t runs in equal steps over the range, one step beyond its
-// end on day SimTime+1.
-void fillGrid(Model& m, Table1<double>& grid, double from, double to) {
+// end on day SimTime+1; K of day t is the formula at that x.
+template <typename Formula>
+void fillCapacityOverGrid(Model& m, Table1<double>& grid, double from, double to, Formula k) {
   m.XTo = to;
   m.XStep = divide(m.XTo - from, m.SimTime);
   grid(0) = from;
   for (int t = 0; t <= lastDay(m); ++t)
     grid(t) = grid(0) + t * m.XStep;
+  for (int t = 0; t <= lastDay(m); ++t)
+    m.CarryingCapacity(t) = k(m, grid(t));
 }
 
 double polynomialAt(const Model& m, double x) {
@@ -76,9 +79,7 @@ void fillPolynomialGrid(Model& m, const PolynomialBoxes& boxes) {
   m.PolyC = boxes.c;
   m.PolyD = boxes.d;
   m.PolyXFrom = boxes.xFrom;
-  fillGrid(m, m.PolyX, m.PolyXFrom, boxes.xTo);
-  for (int t = 0; t <= lastDay(m); ++t)
-    m.CarryingCapacity(t) = polynomialAt(m, m.PolyX(t));
+  fillCapacityOverGrid(m, m.PolyX, m.PolyXFrom, boxes.xTo, polynomialAt);
 }
 
 void fillPolynomialCapacity(Model& m, const PolynomialBoxes& boxes) {
@@ -98,9 +99,7 @@ void OptimalFit(Model& m, const ParabolaBoxes& boxes) {
 void fillParabolaGrid(Model& m, const ParabolaBoxes& boxes) {
   OptimalFit(m, boxes);
   m.ParabolaXFrom = boxes.xFrom;
-  fillGrid(m, m.ParabolaX, m.ParabolaXFrom, boxes.xTo);
-  for (int t = 0; t <= lastDay(m); ++t)
-    m.CarryingCapacity(t) = parabolaAt(m, m.ParabolaX(t));
+  fillCapacityOverGrid(m, m.ParabolaX, m.ParabolaXFrom, boxes.xTo, parabolaAt);
 }
 
 void fillParabolaCapacity(Model& m, const ParabolaBoxes& boxes) {

@@ -40,6 +40,20 @@ void clearStagesUsed(SamplingTables& t, int nrStage) {
     t.SampleStageUsed(stage) = "No";
 }
 
+// One series for each stage the file used, named after the stage and
+// holding its counts at the indexes from first to last.
+void fillUsedStageSeries(const Model& m, SamplingTables& t, int first, int last) {
+  t.NrSampleSeries = 0;
+  for (int stage = 1; stage <= m.NrStage; ++stage) {
+    if (t.SampleStageUsed(stage) != "Yes")
+      continue;
+    t.NrSampleSeries = checkedInt16(t.NrSampleSeries + 1);
+    t.SampleSeriesName(t.NrSampleSeries) = m.StageName(stage);
+    for (int index = first; index <= last; ++index)
+      t.SampleSeries(index, t.NrSampleSeries) = t.SampleCount(index, stage);
+  }
+}
+
 std::string stageQuestion(const Model& m, const SamplingTables& t) {
   std::string text = "You have sampled the field data of " + m.StageName(t.SampledStage) + ". It is stage" +
                      digits(t.SampledStage) +
@@ -64,15 +78,7 @@ std::optional<ChartContent> showSamplingData(Session& session, SamplingTables& t
   t.NrSample = 0;
   readSampleRecords(session.files.input(kDataFile), SampleRecordForm::FiveItems, t);
 
-  t.NrSampleSeries = 0;
-  for (int stage = 1; stage <= m.NrStage; ++stage) {
-    if (t.SampleStageUsed(stage) != "Yes")
-      continue;
-    t.NrSampleSeries = checkedInt16(t.NrSampleSeries + 1);
-    t.SampleSeriesName(t.NrSampleSeries) = m.StageName(stage);
-    for (int day = 0; day <= m.SimTime; ++day)
-      t.SampleSeries(day, t.NrSampleSeries) = t.SampleCount(day, stage);
-  }
+  fillUsedStageSeries(m, t, 0, m.SimTime);
   session.files.close(kDataFile);
   return ShowSamplingDataCurve(session, t);
 }
@@ -124,16 +130,8 @@ ChartContent predictEmergence(Session& session, SamplingTables& t) {
   Model& m = session.model();
   if (chooseAndReadStageTimes(session, t) && openSamplingFile(session, t)) {
     readSingleSample(session, t, "a prediction");
-    t.NrSampleSeries = 0;
-    for (int stage = 1; stage <= m.NrStage; ++stage) {
-      if (t.SampleStageUsed(stage) != "Yes")
-        continue;
-      t.NrSampleSeries = checkedInt16(t.NrSampleSeries + 1);
-      t.SampleSeriesName(t.NrSampleSeries) = m.StageName(stage);
-      // By record number, not by day.
-      for (int k = 1; k <= t.NrSample; ++k)
-        t.SampleSeries(k, t.NrSampleSeries) = t.SampleCount(k, stage);
-    }
+    // By record number, not by day.
+    fillUsedStageSeries(m, t, 1, t.NrSample);
     session.files.close(kDataFile);
 
     const std::string defaultStage = digits(t.SampledStage < m.NrStage - 1 ? t.SampledStage + 1 : 1);

@@ -100,13 +100,7 @@ CarryWindow::CarryWindow(QWidget* parent) : QWidget(parent) {
 }
 
 void CarryWindow::showStates(const Session& session, const CarryForm& form) {
-  const std::string prefix = std::string(forms::kCarryingCapacity) + ".";
-  for (const auto& [control, state] : session.controls) {
-    if (control.rfind(prefix, 0) != 0)
-      continue;
-    if (auto* widget = findChild<QWidget*>(QString::fromStdString(control.substr(prefix.size()))))
-      showControl(*widget, state);
-  }
+  showFormControls(*this, session, forms::kCarryingCapacity);
   const QString selected = QStringLiteral("Option%1").arg(form.selectedOption());
   if (auto* option = findChild<QRadioButton*>(selected))
     option->setChecked(true);

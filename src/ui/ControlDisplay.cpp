@@ -5,6 +5,8 @@
 #include <QLabel>
 #include <QLineEdit>
 
+#include <string>
+
 namespace vorlex::ui {
 
 void showControl(QWidget& widget, const ControlState& state, bool enabled, const QString& hint) {
@@ -22,6 +24,16 @@ void showControl(QWidget& widget, const ControlState& state, bool enabled, const
   widget.setEnabled(enabled);
   widget.setToolTip(hint);
   widget.setVisible(state.visible);
+}
+
+void showFormControls(QWidget& window, const Session& session, const char* form) {
+  const std::string prefix = std::string(form) + ".";
+  for (const auto& [name, state] : session.controls) {
+    if (name.rfind(prefix, 0) != 0)
+      continue;
+    if (auto* widget = window.findChild<QWidget*>(QString::fromStdString(name.substr(prefix.size()))))
+      showControl(*widget, state);
+  }
 }
 
 } // namespace vorlex::ui

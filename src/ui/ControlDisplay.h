@@ -18,4 +18,9 @@ inline void showControl(QWidget& widget, const ControlState& state) {
   showControl(widget, state, state.enabled, QString::fromStdString(state.hint));
 }
 
+/// Shows the states of one form's controls (those named "FORM.NAME" in the
+/// session) on the widgets of `window` named NAME; a control without a
+/// widget is passed over.
+void showFormControls(QWidget& window, const Session& session, const char* form);
+
 } // namespace vorlex::ui

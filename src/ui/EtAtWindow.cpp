@@ -71,13 +71,7 @@ EtAtWindow::EtAtWindow(QWidget* parent) : QWidget(parent) {
 }
 
 void EtAtWindow::showStates(const Session& session, const EtAtForm& form) {
-  const std::string prefix = std::string(forms::kEtAndAt) + ".";
-  for (const auto& [control, state] : session.controls) {
-    if (control.rfind(prefix, 0) != 0)
-      continue;
-    if (auto* widget = findChild<QWidget*>(QString::fromStdString(control.substr(prefix.size()))))
-      showControl(*widget, state);
-  }
+  showFormControls(*this, session, forms::kEtAndAt);
   // No option stands selected until one is chosen.
   for (QRadioButton* option : findChildren<QRadioButton*>()) {
     const bool selected = option->objectName() == QStringLiteral("Option%1").arg(form.selectedOption());

@@ -56,15 +56,7 @@ LargeGraphWindow::LargeGraphWindow(QWidget* parent) : QWidget(parent) {
 }
 
 void LargeGraphWindow::showStates(const Session& session) {
-  const std::string prefix = std::string(forms::kLargeGraphs) + ".";
-  for (const auto& [name, state] : session.controls) {
-    if (name.rfind(prefix, 0) != 0)
-      continue;
-    auto* widget = findChild<QWidget*>(QString::fromStdString(name.substr(prefix.size())));
-    if (!widget)
-      continue;
-    showControl(*widget, state);
-  }
+  showFormControls(*this, session, forms::kLargeGraphs);
 }
 
 void LargeGraphWindow::closeEvent(QCloseEvent* event) {

@@ -1,3 +1,4 @@
+#include "support/CaseNames.h"
 #include "support/CliRun.h"
 #include "support/RunFolder.h"
 
@@ -74,13 +75,7 @@ TEST_P(SamplingCommands, PrintTheirResult) {
   EXPECT_EQ(result.out, fileText(golden));
 }
 
-INSTANTIATE_TEST_SUITE_P(Cases, SamplingCommands, ::testing::ValuesIn(kCases), [](const auto& param) {
-  std::string name = param.param.name;
-  for (char& ch : name)
-    if (!std::isalnum(static_cast<unsigned char>(ch)))
-      ch = '_';
-  return name;
-});
+INSTANTIATE_TEST_SUITE_P(Cases, SamplingCommands, ::testing::ValuesIn(kCases), CaseName{});
 
 } // namespace
 } // namespace vorlex::testing

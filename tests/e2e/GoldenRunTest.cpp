@@ -7,6 +7,7 @@
 // other files of tests/data besides its data file, and may follow an earlier
 // run in the same folder whose outputs it reads; an answer names a file of
 // the run's folder as RUN/name.
+#include "support/CaseNames.h"
 #include "support/CliRun.h"
 #include "support/RunFolder.h"
 
@@ -341,11 +342,7 @@ const GoldenCase kCases[] = {
      {"--export", "consumption"}},
 };
 
-INSTANTIATE_TEST_SUITE_P(Sessions, GoldenRun, ::testing::ValuesIn(kCases), [](const auto& param) {
-  std::string name = param.param.name;
-  std::replace(name.begin(), name.end(), '-', '_');
-  return name;
-});
+INSTANTIATE_TEST_SUITE_P(Sessions, GoldenRun, ::testing::ValuesIn(kCases), CaseName{});
 
 // Optimising the first control projects the data file's schedule as the
 // predefined control does: the files of the projection are the same.

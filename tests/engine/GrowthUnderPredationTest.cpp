@@ -1,6 +1,7 @@
 // One day's predation on a prepared next-day matrix of the three-stage
 // table: females (stage 2, ages 1-3) and males (stage 3, ages 1-3).
 #include "engine/GrowthUnderPredation.h"
+#include "support/CaseNames.h"
 #include "support/TestSession.h"
 
 #include <gtest/gtest.h>
@@ -56,8 +57,7 @@ const PredationCase kCases[] = {
     {"none", 0, 1, 1, 100, 40, -1, 0},
 };
 
-INSTANTIATE_TEST_SUITE_P(Cases, PredationDay, ::testing::ValuesIn(kCases),
-                         [](const auto& param) { return std::string(param.param.name); });
+INSTANTIATE_TEST_SUITE_P(Cases, PredationDay, ::testing::ValuesIn(kCases), CaseName{});
 
 } // namespace
 } // namespace vorlex::testing

@@ -1,8 +1,7 @@
 // Whole sessions of the desktop program, clicked through on its widgets with
 // given answers to its questions.
-#include "GuiSupport.h"
+#include "ClickedDesktop.h"
 #include "charts/ChartFamily.h"
-#include "cli/AnswerPrompter.h"
 #include "exports/TotalPredation.h"
 #include "mainform/CheckDataForm.h"
 #include "mainform/Forms.h"
@@ -33,16 +32,11 @@
 
 #include <algorithm>
 #include <memory>
-#include <sstream>
 
 using namespace vorlex;
+using testing::contentsOf;
 
 namespace {
-
-QByteArray contentsOf(const QString& path) {
-  QFile file(path);
-  return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray("<missing>");
-}
 
 QStringList filesIn(const QString& dir) { return QDir(dir).entryList(QDir::Files, QDir::Name); }
 
@@ -63,30 +57,12 @@ QString differenceFrom(const QString& written, const QString& reference) {
   return {};
 }
 
-/// A desktop session in a folder of its own, on a copy of the example.
-struct Clicked {
-  QTemporaryDir dir;
-  QString dataFile = testing::copyOfExample(dir);
-  std::ostringstream asked;
-  cli::AnswerPrompter answers{asked};
-  ui::Desktop desktop{answers};
+/// A desktop session that also counts the ends of its program.
+struct Clicked : testing::ClickedDesktop {
   QSignalSpy ended{&desktop, &ui::Desktop::programEnded};
-  QStringList errors;
-  /// The choice after an error, and whether the session had ended (files
-  /// closed) when its message showed.
-  ui::Desktop::AfterError afterError = ui::Desktop::AfterError::Quit;
-  bool endedWhenShown = false;
 
-  explicit Clicked(std::initializer_list<const char*> given = {}) {
-    answers.addAnswer("Open the vorlex data file=" + dataFile.toStdString());
-    for (const char* answer : given)
-      answers.addAnswer(answer);
-    desktop.session().shortDate = "2026-11-21";
-    desktop.showError = [this](const QString& title, const QString& text) {
-      errors << title + "|" + text;
-      endedWhenShown = desktop.ended();
-      return afterError;
-    };
+  explicit Clicked(std::initializer_list<const char*> given = {})
+      : ClickedDesktop(QStringList(given.begin(), given.end())) {
     desktop.start();
   }
 

@@ -1,7 +1,6 @@
 // The one-day export buttons and the band chart of the desktop program,
 // clicked on its widgets with given answers to its questions.
-#include "GuiSupport.h"
-#include "cli/AnswerPrompter.h"
+#include "ClickedDesktop.h"
 #include "ui/ChartView.h"
 #include "ui/Desktop.h"
 #include "ui/LargeGraphWindow.h"
@@ -14,35 +13,13 @@
 #include <QLineSeries>
 #include <QtTest>
 
-#include <sstream>
-
 using namespace vorlex;
+using testing::contentsOf;
 
 namespace {
 
-QByteArray contentsOf(const QString& path) {
-  QFile file(path);
-  return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray("<missing>");
-}
-
-struct Clicked {
-  QTemporaryDir dir;
-  QString dataFile = testing::copyOfExample(dir);
-  std::ostringstream asked;
-  cli::AnswerPrompter answers{asked};
-  ui::Desktop desktop{answers};
-  QStringList errors;
-
-  explicit Clicked(const QStringList& given) {
-    answers.addAnswer("Open the vorlex data file=" + dataFile.toStdString());
-    for (const QString& answer : given)
-      answers.addAnswer(answer.toStdString());
-    desktop.showError = [this](const QString&, const QString& text) {
-      errors << text;
-      return ui::Desktop::AfterError::Quit;
-    };
-    desktop.start();
-  }
+struct Clicked : testing::ClickedDesktop {
+  explicit Clicked(const QStringList& given) : ClickedDesktop(given) { desktop.start(); }
   void click(const char* name) {
     QTest::mouseClick(desktop.mainWindow().findChild<QAbstractButton*>(QString::fromLatin1(name)), Qt::LeftButton);
   }
@@ -94,7 +71,8 @@ private slots:
                "Open for the first time or append data to an existing file?=Yes"});
     s.run({"cmdVIPOption1"});
     QCOMPARE(s.errors.size(), 1);
-    QVERIFY2(s.errors.first().startsWith(QStringLiteral("Run-time error '52':\n\nBad file name or number")),
+    QVERIFY2(
+        s.errors.first().startsWith(QStringLiteral("Vorlex|Run-time error '52':\n\nBad file name or number")),
              qPrintable(s.errors.first()));
   }
 

@@ -1,7 +1,6 @@
 // The carrying-capacity form and the threshold form of the desktop program,
 // clicked through on their widgets.
-#include "GuiSupport.h"
-#include "cli/AnswerPrompter.h"
+#include "ClickedDesktop.h"
 #include "mainform/Forms.h"
 #include "ui/CarryWindow.h"
 #include "ui/ChartView.h"
@@ -16,34 +15,13 @@
 #include <QRadioButton>
 #include <QtTest>
 
-#include <sstream>
-
 using namespace vorlex;
+using testing::contentsOf;
 
 namespace {
 
-QByteArray contentsOf(const QString& path) {
-  QFile file(path);
-  return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray("<missing>");
-}
-
-struct Clicked {
-  QTemporaryDir dir;
-  QString dataFile = testing::copyOfExample(dir);
-  std::ostringstream asked;
-  cli::AnswerPrompter answers{asked};
-  ui::Desktop desktop{answers};
-  QStringList errors;
-
-  Clicked() {
-    answers.addAnswer("Open the vorlex data file=" + dataFile.toStdString());
-    desktop.session().shortDate = "2026-11-21";
-    desktop.showError = [this](const QString& title, const QString& text) {
-      errors << title + "|" + text;
-      return ui::Desktop::AfterError::Quit;
-    };
-    desktop.start();
-  }
+struct Clicked : testing::ClickedDesktop {
+  Clicked() : ClickedDesktop({}) { desktop.start(); }
 
   template <typename Widget = QWidget> Widget* in(QWidget& window, const char* name) {
     auto* widget = window.findChild<Widget*>(QString::fromLatin1(name));

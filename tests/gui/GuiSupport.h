@@ -119,6 +119,12 @@ inline QString screenshotPath(const QString& file) {
   return QStringLiteral(VORLEX_SCREENSHOT_DIR) + QLatin1Char('/') + file;
 }
 
+/// The whole contents of a file, or "<missing>" when it cannot be read.
+inline QByteArray contentsOf(const QString& path) {
+  QFile file(path);
+  return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray("<missing>");
+}
+
 /// The bundled example copied into a fresh folder; returns its path.
 inline QString copyOfExample(const QTemporaryDir& dir, const QString& as = QStringLiteral("moth.txt")) {
   const QString path = dir.filePath(as);

@@ -1,11 +1,11 @@
 #include "sampling/SamplingFiles.h"
 
+#include "support/CaseNames.h"
 #include "support/TestSession.h"
 
 #include <gtest/gtest.h>
 
 #include <algorithm>
-#include <cctype>
 #include <vector>
 
 namespace vorlex::testing {
@@ -138,13 +138,7 @@ TEST_P(SampleRecords, FillTheTablesAsRead) {
   }
 }
 
-INSTANTIATE_TEST_SUITE_P(Cases, SampleRecords, ::testing::ValuesIn(kRecordCases), [](const auto& param) {
-  std::string name = param.param.name;
-  for (char& c : name)
-    if (!std::isalnum(static_cast<unsigned char>(c)))
-      c = '_';
-  return name;
-});
+INSTANTIATE_TEST_SUITE_P(Cases, SampleRecords, ::testing::ValuesIn(kRecordCases), CaseName{});
 
 TEST(SampleRecords, TheHundredAndFirstRecordIsOutOfRange) {
   std::string text = "\"d\"\r\n\"h\"\r\n";

@@ -1,4 +1,5 @@
 #include "SamplingFixture.h"
+#include "support/CaseNames.h"
 
 #include <cstdlib>
 #include <fstream>
@@ -53,13 +54,7 @@ TEST_P(Prediction, DayAndSizeFromTheSampleOfDayZero) {
   EXPECT_FALSE(session.files.isOpen(kDataFile));
 }
 
-INSTANTIATE_TEST_SUITE_P(Cases, Prediction, ::testing::ValuesIn(kCases), [](const auto& param) {
-  std::string name = param.param.name;
-  for (char& ch : name)
-    if (!std::isalnum(static_cast<unsigned char>(ch)))
-      ch = '_';
-  return name;
-});
+INSTANTIATE_TEST_SUITE_P(Cases, Prediction, ::testing::ValuesIn(kCases), CaseName{});
 
 TEST_F(SamplingFixture, TheStageQuestionNamesTheSampledStageAndListsAllStages) {
   loadMoth();
