@@ -34,7 +34,7 @@ const char* const kBatchUsage =
 
 namespace {
 
-struct ExportSpec {
+struct ExportRequest {
   DateExport which;
   std::string name; // as given: total, stages, ...
   std::string day;
@@ -44,7 +44,7 @@ struct ExportSpec {
 struct BatchOptions {
   std::vector<std::string> dataFiles;
   std::vector<std::string> runArgs; // passed on to every run as given
-  std::vector<ExportSpec> exports;
+  std::vector<ExportRequest> exports;
   std::string band;
   int jobs = 0;
 };
@@ -61,7 +61,7 @@ DateExport exportNamed(const std::string& name) {
   throw AnswerError("unknown export '" + name + "': total, stages, consumption or weighed");
 }
 
-ExportSpec exportSpec(const std::string& text) {
+ExportRequest exportRequest(const std::string& text) {
   const auto first = text.find(':');
   const auto second = first == std::string::npos ? first : text.find(':', first + 1);
   if (second == std::string::npos || second + 1 == text.size())
@@ -87,7 +87,7 @@ BatchOptions parse(const std::vector<std::string>& args) {
       options.runArgs.push_back(arg);
       options.runArgs.push_back(args[++i]);
     } else if (arg == "--export" && hasValue) {
-      options.exports.push_back(exportSpec(args[++i]));
+      options.exports.push_back(exportRequest(args[++i]));
     } else if (arg == "--band" && hasValue) {
       options.band = args[++i];
     } else if (arg == "--jobs" && hasValue) {
@@ -129,12 +129,12 @@ std::vector<std::string> runArgsOf(const BatchOptions& options, std::size_t n, c
   std::vector<std::string> args{"run", dataFile};
   const std::string code = std::filesystem::path(dataFile).stem().string();
   for (std::size_t k = 0; k < options.exports.size(); ++k) {
-    const ExportSpec& spec = options.exports[k];
-    const DateExportTexts& texts = textsOf(spec.which);
+    const ExportRequest& request = options.exports[k];
+    const DateExportTexts& texts = textsOf(request.which);
     const bool first = n == 0;
     const std::string file = (folder / ("export-" + std::to_string(k) + "-" + std::to_string(n))).string();
     for (const std::string& word :
-         {std::string("--export"), spec.name, std::string("--answer"), answer(texts.dateTitle, spec.day),
+         {std::string("--export"), request.name, std::string("--answer"), answer(texts.dateTitle, request.day),
           std::string("--answer"), answer(kOpenOrAppendTitle, first ? "Yes" : "No"), std::string("--answer"),
           answer(first ? texts.saveTitle : texts.appendTitle, file), std::string("--answer"),
           answer(kFileCodeTitle, code)})

@@ -36,9 +36,9 @@ std::vector<std::string> splitAtCommas(const std::string& text) {
   return pieces;
 }
 
-FormChoice parse(const std::string& spec, const std::vector<FormShape>& shapes, const char* usage) {
-  const auto colon = spec.find(':');
-  const std::string word = spec.substr(0, colon);
+FormChoice parse(const std::string& text, const std::vector<FormShape>& shapes, const char* usage) {
+  const auto colon = text.find(':');
+  const std::string word = text.substr(0, colon);
   for (const FormShape& shape : shapes) {
     if (word != shape.word)
       continue;
@@ -50,27 +50,27 @@ FormChoice parse(const std::string& spec, const std::vector<FormShape>& shapes, 
     }
     if (colon == std::string::npos)
       break;
-    const std::vector<std::string> values = splitAtCommas(spec.substr(colon + 1));
+    const std::vector<std::string> values = splitAtCommas(text.substr(colon + 1));
     if (values.size() != shape.boxes.size())
       break;
     for (std::size_t i = 0; i < values.size(); ++i)
       choice.boxes.emplace_back(shape.boxes[i], values[i]);
     return choice;
   }
-  throw FormScriptError("'" + spec + "' is none of " + usage);
+  throw FormScriptError("'" + text + "' is none of " + usage);
 }
 
 bool enabled(MainForm& form, const char* name) { return form.controlEnabled(name); }
 
 } // namespace
 
-FormChoice parseCarryingCapacity(const std::string& spec) {
-  return parse(spec, kCapacityForms,
+FormChoice parseCarryingCapacity(const std::string& text) {
+  return parse(text, kCapacityForms,
                "logistic:KMAX,K0,R, polynomial:A,B,C,D,XFROM,XTO, parabola:Y0,YMAX,XMAX,XFROM,XTO, none");
 }
 
-FormChoice parseEtEquation(const std::string& spec) {
-  return parse(spec, kEtForms, "constant:A, linear:A,B, logistic:A,B,C,L, hyperbola:A,B");
+FormChoice parseEtEquation(const std::string& text) {
+  return parse(text, kEtForms, "constant:A, linear:A,B, logistic:A,B,C,L, hyperbola:A,B");
 }
 
 void applyCarryingCapacity(MainForm& form, const FormChoice& choice) {

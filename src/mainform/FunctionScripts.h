@@ -30,9 +30,9 @@ struct FormChoice {
 /// "logistic:KMAX,K0,R", "polynomial:A,B,C,D,XFROM,XTO",
 /// "parabola:Y0,YMAX,XMAX,XFROM,XTO" or "none". Throws
 /// FormScriptError, naming the forms, for anything else.
-FormChoice parseCarryingCapacity(const std::string& spec);
+FormChoice parseCarryingCapacity(const std::string& text);
 /// "constant:A", "linear:A,B", "logistic:A,B,C,L" or "hyperbola:A,B".
-FormChoice parseEtEquation(const std::string& spec);
+FormChoice parseEtEquation(const std::string& text);
 
 /// Density-dependent K?, the option, its boxes typed, Calculate (not for
 /// "none"), Go back: with the simulation time in force now. Called after

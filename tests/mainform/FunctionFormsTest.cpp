@@ -242,7 +242,7 @@ TEST_F(FunctionForms, ScriptsRunTheClicksOfTheForms) {
 
 TEST(FunctionScripts, NameTheirFormAndTakeItsBoxesInOrder) {
   struct Case {
-    const char* spec;
+    const char* text;
     bool capacity;
     int option;
     std::vector<std::pair<std::string, std::string>> boxes;
@@ -264,9 +264,9 @@ TEST(FunctionScripts, NameTheirFormAndTakeItsBoxesInOrder) {
       {"hyperbola:1,2", false, 4, {{"Text7", "1"}, {"Text8", "2"}}},
   };
   for (const Case& c : cases) {
-    const FormChoice choice = c.capacity ? parseCarryingCapacity(c.spec) : parseEtEquation(c.spec);
-    EXPECT_EQ(choice.option, c.option) << c.spec;
-    EXPECT_EQ(choice.boxes, c.boxes) << c.spec;
+    const FormChoice choice = c.capacity ? parseCarryingCapacity(c.text) : parseEtEquation(c.text);
+    EXPECT_EQ(choice.option, c.option) << c.text;
+    EXPECT_EQ(choice.boxes, c.boxes) << c.text;
   }
   for (const char* wrong : {"logistic:1,2", "none:1", "cubic:1", "logistic", ""})
     EXPECT_THROW(parseCarryingCapacity(wrong), FormScriptError) << wrong;
