@@ -11,17 +11,8 @@ inputs=${1:-1000}
 cd "$(dirname "$0")/.."
 
 packages="clang-14 libclang-rt-14-dev"
-missing=""
-for package in $packages; do
-  dpkg -s "$package" >/dev/null 2>&1 || missing="$missing $package"
-done
-if [ -n "$missing" ]; then
-  as_root=""
-  [ "$(id -u)" -eq 0 ] || as_root="sudo"
-  $as_root apt-get update
-  # shellcheck disable=SC2086
-  DEBIAN_FRONTEND=noninteractive $as_root apt-get install -y --no-install-recommends $missing
-fi
+# shellcheck disable=SC2086
+sh scripts/install-missing.sh $packages
 
 # -O1 with line tables: quick to build, stack traces with lines, and
 # assertions on.

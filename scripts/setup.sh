@@ -20,17 +20,8 @@ cd "$(dirname "$0")/.."
 packages="cmake g++ make libgtest-dev libbenchmark-dev
   qt6-base-dev qt6-charts-dev qt6-svg-dev libqt6opengl6-dev
   libgl-dev libvulkan-dev libxkbcommon-dev fonts-dejavu-core"
-missing=""
-for package in $packages; do
-  dpkg -s "$package" >/dev/null 2>&1 || missing="$missing $package"
-done
-if [ -n "$missing" ]; then
-  as_root=""
-  [ "$(id -u)" -eq 0 ] || as_root="sudo"
-  $as_root apt-get update
-  # shellcheck disable=SC2086
-  DEBIAN_FRONTEND=noninteractive $as_root apt-get install -y --no-install-recommends $missing
-fi
+# shellcheck disable=SC2086
+sh scripts/install-missing.sh $packages
 
 cmake -S . -B build -DCMAKE_BUILD_TYPE=Release -DVORLEX_BUILD_BENCH=ON
 if [ "$everything" = yes ]; then
