@@ -51,8 +51,7 @@ public:
         withCxj_(session.flags.WithCxj == "Yes"), n_(m_.PopN), next_(m_.NextN), physoN_(m_.PhysoN),
         nextPhysoN_(m_.NextPhysoN), growth_(m_.GrowthRate), develop_(m_.DevelopRate),
         fecundity_(m_.Fecundity), death_(m_.DeathRate), consumption_(m_.Consumption),
-        weigh_(m_.WeighCoefAgeStage), density_(m_.DensityCoefAgeStage), ageSize_(m_.AgeSize),
-        physoAgeSize_(m_.PhysoAgeSize) {
+        weigh_(m_.WeighCoefAgeStage), density_(m_.DensityCoefAgeStage) {
     if (lastAge_ > m_.PopN.upper(0) || stages_ > m_.PopN.upper(1) || lastAge_ > m_.AgeSize.upper(0))
       raise(ErrorCode::SubscriptOutOfRange);
     rates_ = rateWindowsOf(lastAge_, stages_, growth_, develop_);
@@ -328,38 +327,36 @@ private:
         }
       nAges_ = nextAges_;
     }
-    m_.TotalSize(t) = finite(sumAges(next_, nextAges_, ageSize_, t, m_.TotalSize(t)));
+    m_.TotalSize(t) = finite(sumAges(next_, nextAges_, &m_.AgeSize(0, t), m_.TotalSize(t)));
     if (!physogastry_)
       return;
     for (int x = 0; x <= lastAge_; ++x)
       for (int j = 1; j <= stages_; ++j)
         physoN_(x, j) = nextPhysoN_(x, j);
-    m_.PhysoTotalSize(t) = sumAges(nextPhysoN_, physoAges_, physoAgeSize_, t, m_.PhysoTotalSize(t));
+    m_.PhysoTotalSize(t) = sumAges(nextPhysoN_, physoAges_, &m_.PhysoAgeSize(0, t), m_.PhysoTotalSize(t));
   }
 
-  // Adds the ages of the matrix to their sizes of day t, and those sizes,
-  // age by age, to `total`.
-  double sumAges(const Cells& matrix, const AgeWindows& ages, const Cells& ageSize, int t, double total) {
+  // Adds the ages of the matrix to their sizes of the day, `sizes` (ages
+  // 0..lastAge side by side), and those sizes, age by age, to `total`.
+  // An age that no stage holds keeps its size; a size of 0 adds nothing.
+  double sumAges(const Cells& matrix, const AgeWindows& ages, double* sizes, double total) const {
     if (dense(ages)) {
       for (int x = 0; x <= lastAge_; ++x) {
         const double* row = matrix.row(x);
-        double size = ageSize(x, t);
+        double size = sizes[x];
         for (int j = 1; j <= stages_; ++j)
           size += row[j];
-        ageSize(x, t) = size;
+        sizes[x] = size;
         total += size;
       }
       return total;
     }
-    for (int x = 0; x <= lastAge_; ++x)
-      sizes_[x] = ageSize(x, t);
     for (int j = 1; j <= stages_; ++j)
       for (int x = ages[j].first; x <= ages[j].last; ++x)
-        sizes_[x] += matrix(x, j);
-    for (int x = 0; x <= lastAge_; ++x) {
-      ageSize(x, t) = sizes_[x];
-      total += sizes_[x];
-    }
+        sizes[x] += matrix(x, j);
+    for (int x = 0; x <= lastAge_; ++x)
+      if (sizes[x] != 0)
+        total += sizes[x];
     return total;
   }
 
@@ -534,10 +531,8 @@ private:
   RateWindows rates_;
   AgeWindows nAges_{}, nextAges_{}; // where PopN and NextN may hold individuals
   AgeWindows allAges_{}, physoAges_{};
-  std::array<double, kLastAgeSlot + 1> sizes_{}; // of every age, for the day
   Cells n_, next_, physoN_, nextPhysoN_;
   Cells growth_, develop_, fecundity_, death_, consumption_, weigh_, density_;
-  Cells ageSize_, physoAgeSize_;
 };
 
 } // namespace

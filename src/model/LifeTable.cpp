@@ -1,6 +1,7 @@
 #include "model/LifeTable.h"
 
 #include "model/Arithmetic.h"
+#include "model/RunTables.h"
 #include "model/Session.h"
 
 namespace vorlex {
@@ -8,6 +9,7 @@ namespace vorlex {
 void VorlexAGosub640(Session& session) {
   Model& m = session.model();
   const int lastDay = checkedInt16(m.SimTime + 1);
+  expectTablesOfTheRun(m);
   for (int stage = 1; stage <= m.NrStage; ++stage)
     for (int t = 0; t <= lastDay; ++t) {
       m.StageSurvivalDay(stage, t) = 1;
@@ -18,9 +20,7 @@ void VorlexAGosub640(Session& session) {
   for (int age = 0; age <= m.LastAge; ++age)
     for (int stage = 1; stage <= m.NrStage; ++stage)
       m.Lxj(age, stage) = 0;
-  // A projection fills the sizes of every age of the table on every day.
-  m.AgeSize.expectRowsUpTo(m.LastAge);
-  m.PhysoAgeSize.expectRowsUpTo(m.LastAge);
+
 }
 
 void workOutDeathRate(Session& session) {

@@ -10,7 +10,8 @@ namespace vorlex {
 
 using i16 = std::int16_t;
 
-/// Fixed bounds of every table; nothing is resized.
+/// Fixed bounds of every table; nothing is resized, but for the ages of the
+/// sizes by age and day, narrowed to the table in hand at the load.
 inline constexpr int kLastAgeSlot = 1005;  // ages 0..1005
 inline constexpr int kLastStageSlot = 12;  // stages 1..12, slot 0 unused
 inline constexpr int kLastDaySlot = 1005;  // days 0..1005
@@ -89,8 +90,8 @@ struct Model {
   Table1<std::string> ControlName{kLastControlSlot};
   Table1<double> ControlDuration{20};
   Table3<double> ControlMortality{kLastStageSlot, kLastEffectiveDay, kLastControlSlot};
-  Table2<double> StageSurvivalDay{kLastStageSlot, kLastDaySlot};
-  Table2<double> StageSurvivalDay0{kLastStageSlot, kLastDaySlot};
+  Table2<double> StageSurvivalDay{Layout::ColumnByColumn, kLastStageSlot, kLastDaySlot};
+  Table2<double> StageSurvivalDay0{Layout::ColumnByColumn, kLastStageSlot, kLastDaySlot};
   Table1<Value> ReleaseDay{kLastReleaseSlot};
   Table3<double> ReleaseN{kLastReleaseSlot, kLastAgeSlot, kLastStageSlot};
   /// Scheduled additions of the projection.
@@ -116,16 +117,17 @@ struct Model {
   Table2<double> NextN{kLastAgeSlot, kLastStageSlot};
   Table2<double> PhysoN{kLastAgeSlot, kLastStageSlot};
   Table2<double> NextPhysoN{kLastAgeSlot, kLastStageSlot};
-  Table2<double> AgeSize{kLastAgeSlot, kLastDaySlot};
-  Table2<double> PhysoAgeSize{kLastAgeSlot, kLastDaySlot};
-  Table2<double> StageSize{kLastStageSlot, kLastDaySlot};
-  Table2<double> PhysoStageSize{kLastStageSlot, kLastDaySlot};
-  Table2<double> StageFraction{kLastStageSlot, kLastDaySlot};
-  Table2<double> PhysoStageFraction{kLastStageSlot, kLastDaySlot};
-  Table2<double> StageGrowthLn{kLastStageSlot, kLastDaySlot};
-  Table2<double> StageGrowthLog{kLastStageSlot, kLastDaySlot};
-  Table2<double> PhysoStageGrowthLn{kLastStageSlot, kLastDaySlot};
-  Table2<double> PhysoStageGrowthLog{kLastStageSlot, kLastDaySlot};
+  // A day's ages are summed together: each day's column lies in one piece.
+  Table2<double> AgeSize{Layout::ColumnByColumn, kLastAgeSlot, kLastDaySlot};
+  Table2<double> PhysoAgeSize{Layout::ColumnByColumn, kLastAgeSlot, kLastDaySlot};
+  Table2<double> StageSize{Layout::ColumnByColumn, kLastStageSlot, kLastDaySlot};
+  Table2<double> PhysoStageSize{Layout::ColumnByColumn, kLastStageSlot, kLastDaySlot};
+  Table2<double> StageFraction{Layout::ColumnByColumn, kLastStageSlot, kLastDaySlot};
+  Table2<double> PhysoStageFraction{Layout::ColumnByColumn, kLastStageSlot, kLastDaySlot};
+  Table2<double> StageGrowthLn{Layout::ColumnByColumn, kLastStageSlot, kLastDaySlot};
+  Table2<double> StageGrowthLog{Layout::ColumnByColumn, kLastStageSlot, kLastDaySlot};
+  Table2<double> PhysoStageGrowthLn{Layout::ColumnByColumn, kLastStageSlot, kLastDaySlot};
+  Table2<double> PhysoStageGrowthLog{Layout::ColumnByColumn, kLastStageSlot, kLastDaySlot};
   Table1<double> TotalSize{kLastDaySlot};
   Table1<double> StageSum{kLastDaySlot};
   Table1<double> PhysoTotalSize{kLastDaySlot};
@@ -157,7 +159,7 @@ struct Model {
   Table2<double> LogCumuStageDeath{kLastDaySlot, kLastStageSlot};
   Table1<double> TotalDeath{kLastDaySlot};
   Table1<double> LogTotalDeath{kLastDaySlot};
-  Table2<double> WeakSize{5, kLastDaySlot};
+  Table2<double> WeakSize{Layout::ColumnByColumn, 5, kLastDaySlot};
   Table1<double> CarryingCapacity{kLastDaySlot};
   Table1<double> DensityMortality{kLastDaySlot};
   Table1<double> DensityCoefBelowKDay{kLastDaySlot};
@@ -240,7 +242,7 @@ struct Model {
   double WeighedAtCritical = 0;
   /// PhysoDailyWID of the last day projected.
   double PhysoWeighedLast = 0;
-  Table2<double> PhysoWeakSize{5, kLastDaySlot};
+  Table2<double> PhysoWeakSize{Layout::ColumnByColumn, 5, kLastDaySlot};
   /// Number of the run in a series of runs; 0 for a single projection.
   i16 SeriesIndex = 0;
 

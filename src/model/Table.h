@@ -75,10 +75,7 @@ public:
   const T* data() const { return cells_.get(); }
   std::size_t size() const { return size_; }
   /// The first `count` cells will all be written soon.
-  void expectWrites(std::size_t count) {
-    if (paged(bytesOf(size_)))
-      detail::expectWrites(data(), std::min(count, size_) * sizeof(T));
-  }
+  void expectWrites(std::size_t count) { detail::expectWrites(data(), std::min(count, size_) * sizeof(T)); }
 
 private:
   // From this size on the cells are pages of their own straight from the
@@ -113,6 +110,11 @@ private:
 
 } // namespace detail
 
+/// How a table keeps its cells in memory. By default the last index runs
+/// fastest: the cells of a row lie side by side. A table that is filled
+/// and read one column at a time keeps its columns together instead.
+enum class Layout { RowByRow, ColumnByColumn };
+
 /// A table with fixed bounds 0..upper in each of its Rank dimensions, all
 /// zeros (or empty texts) at the start. An index outside the bounds stops
 /// the work with Subscript out of range.
@@ -120,7 +122,10 @@ template <typename T, std::size_t Rank> class Table {
 public:
   template <typename... Upper>
     requires(sizeof...(Upper) == Rank)
-  explicit Table(Upper... upper) : upper_{static_cast<int>(upper)...}, cells_(sizeOf(upper_)) {}
+  explicit Table(Upper... upper) : Table(Layout::RowByRow, upper...) {}
+  template <typename... Upper>
+    requires(sizeof...(Upper) == Rank)
+  Table(Layout layout, Upper... upper) : upper_{static_cast<int>(upper)...}, layout_(layout), cells_(sizeOf(upper_)) {}
 
   template <typename... Index>
     requires(sizeof...(Index) == Rank)
@@ -135,14 +140,33 @@ public:
 
   /// The upper bound of a dimension (from 0).
   int upper(std::size_t dimension = 0) const { return upper_[dimension]; }
-  /// Says that the cells up to the given last row (the first index) will
-  /// be written: a large table then takes its memory in large pieces,
-  /// which the system hands out much faster than page by page.
-  void expectRowsUpTo(int lastRow)
+  /// Says that the cells up to the given last index of the outer dimension
+  /// (the first index of a table kept row by row, the last of one kept
+  /// column by column) will be written: a large table then takes its
+  /// memory in large pieces, which the system hands out much faster than
+  /// page by page.
+  void expectWritesUpTo(int last)
     requires std::is_arithmetic_v<T>
   {
-    if (lastRow >= 0 && lastRow <= upper_[0])
-      cells_.expectWrites((static_cast<std::size_t>(lastRow) + 1) * (cells_.size() / (upper_[0] + 1u)));
+    const std::size_t outer = layout_ == Layout::RowByRow ? 0 : Rank - 1;
+    if (last >= 0 && last <= upper_[outer])
+      cells_.expectWrites((static_cast<std::size_t>(last) + 1) * (cells_.size() / (upper_[outer] + 1u)));
+  }
+  /// Says that the cells from the first up to the given one, in the order
+  /// they are kept, will be written soon.
+  template <typename... Index>
+    requires(sizeof...(Index) == Rank && std::is_arithmetic_v<T>)
+  void expectWritesThrough(Index... last) {
+    cells_.expectWrites(offset(static_cast<long long>(last)...) + 1);
+  }
+  /// Narrows the first dimension to 0..last, for a table that no one has
+  /// written yet: a table kept column by column then keeps each column in
+  /// one short piece. Indexes beyond are out of range from then on.
+  void narrowRowsTo(int last) {
+    if (last < 0 || last > upper_[0])
+      raise(ErrorCode::SubscriptOutOfRange);
+    upper_[0] = last;
+    cells_ = detail::Storage<T>(sizeOf(upper_));
   }
   void fill(const T& value) { std::fill(cells_.data(), cells_.data() + cells_.size(), value); }
 
@@ -157,7 +181,8 @@ private:
   template <typename... Index> std::size_t offset(Index... index) const {
     const std::array<long long, Rank> at{index...};
     std::size_t result = 0;
-    for (std::size_t d = 0; d < Rank; ++d) {
+    for (std::size_t k = 0; k < Rank; ++k) {
+      const std::size_t d = layout_ == Layout::RowByRow ? k : Rank - 1 - k;
       if (at[d] < 0 || at[d] > upper_[d])
         raise(ErrorCode::SubscriptOutOfRange);
       result = result * (static_cast<std::size_t>(upper_[d]) + 1) + static_cast<std::size_t>(at[d]);
@@ -166,6 +191,7 @@ private:
   }
 
   std::array<int, Rank> upper_;
+  Layout layout_;
   detail::Storage<T> cells_;
 };
 

@@ -4,6 +4,7 @@
 
 #if defined(__unix__) || defined(__APPLE__)
 #include <sys/mman.h>
+#include <unistd.h>
 #define VORLEX_ANONYMOUS_PAGES 1
 #endif
 
@@ -16,12 +17,24 @@ const bool kPagesFromTheSystem = true;
 
 namespace {
 
+#ifdef MADV_POPULATE_WRITE
+constexpr int kPopulateWrite = MADV_POPULATE_WRITE;
+#else
+constexpr int kPopulateWrite = 23; // since Linux 5.14
+#endif
+
 // The large pages of the system, where it has them.
 constexpr std::uintptr_t kLargePage = std::uintptr_t{2} << 20;
 
 void* map(std::size_t bytes) {
   void* pages = mmap(nullptr, bytes, PROT_READ | PROT_WRITE, MAP_PRIVATE | MAP_ANONYMOUS, -1, 0);
   return pages == MAP_FAILED ? nullptr : pages;
+}
+
+// The bytes a table of `bytes` maps: a table of several large pages takes
+// whole ones, so that its last part too can be served in a large page.
+std::size_t mappedBytes(std::size_t bytes) {
+  return bytes < 2 * kLargePage ? bytes : (bytes + kLargePage - 1) / kLargePage * kLargePage;
 }
 
 } // namespace
@@ -31,6 +44,7 @@ void* map(std::size_t bytes) {
 void* zeroPages(std::size_t bytes) {
   if (bytes < 2 * kLargePage)
     return map(bytes);
+  bytes = mappedBytes(bytes);
   auto* mapped = static_cast<char*>(map(bytes + kLargePage));
   if (!mapped)
     return nullptr;
@@ -42,18 +56,26 @@ void* zeroPages(std::size_t bytes) {
   return mapped + head;
 }
 
-void returnPages(void* pages, std::size_t bytes) { munmap(pages, bytes); }
+void returnPages(void* pages, std::size_t bytes) { munmap(pages, mappedBytes(bytes)); }
 
 void expectWrites(void* first, std::size_t bytes) {
+  if (bytes == 0)
+    return;
 #ifdef MADV_HUGEPAGE
   // Less than two large pages is left to the small ones: a short run
-  // would take far more memory than it writes.
-  if (bytes >= 2 * kLargePage)
-    madvise(first, bytes, MADV_HUGEPAGE); // a mere hint: no answer to check
-#else
-  (void)first;
-  (void)bytes;
+  // would take far more memory than it writes. A table of several large
+  // pages maps whole ones, its last one too.
+  if (bytes >= 2 * kLargePage) {
+    madvise(first, mappedBytes(bytes), MADV_HUGEPAGE); // a mere hint: no answer to check
+    return;
+  }
 #endif
+  // Small pages are handed over in one go: a page taken at its first write
+  // costs the system many times more.
+  const std::uintptr_t page = static_cast<std::uintptr_t>(sysconf(_SC_PAGESIZE));
+  const auto from = reinterpret_cast<std::uintptr_t>(first) / page * page;
+  const auto to = (reinterpret_cast<std::uintptr_t>(first) + bytes + page - 1) / page * page;
+  madvise(reinterpret_cast<void*>(from), to - from, kPopulateWrite); // older systems refuse: a hint too
 }
 
 #else
