@@ -17,8 +17,9 @@ namespace detail {
 
 /// Whether large tables take zeroed pages straight from the system.
 extern const bool kPagesFromTheSystem;
-/// Zeroed pages of at least `bytes`, touched only when written; null when
-/// the system has none.
+/// Zeroed memory of at least `bytes` (a page or more), touched only when
+/// written; null when the system has none. Tables of many pages map their
+/// own; smaller ones share larger mappings.
 void* zeroPages(std::size_t bytes);
 /// Gives back what zeroPages handed out.
 void returnPages(void* pages, std::size_t bytes);
@@ -78,10 +79,10 @@ public:
   void expectWrites(std::size_t count) { detail::expectWrites(data(), std::min(count, size_) * sizeof(T)); }
 
 private:
-  // From this size on the cells are pages of their own straight from the
-  // system: zero until first touched, and only the touched ones take
+  // From this size on the cells are zeroed pages from the system (see
+  // zeroPages): zero until first touched, and only the touched ones take
   // memory. A smaller table comes from the heap, cleared.
-  static constexpr std::size_t kPagedBytes = 64 * 1024;
+  static constexpr std::size_t kPagedBytes = 4096;
 
   static std::size_t bytesOf(std::size_t size) { return (size == 0 ? 1 : size) * sizeof(T); }
   static bool paged(std::size_t bytes) { return kPagesFromTheSystem && bytes >= kPagedBytes; }

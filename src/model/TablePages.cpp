@@ -1,6 +1,7 @@
 #include "model/Table.h"
 
 #include <cstdint>
+#include <mutex>
 
 #if defined(__unix__) || defined(__APPLE__)
 #include <sys/mman.h>
@@ -37,26 +38,77 @@ std::size_t mappedBytes(std::size_t bytes) {
   return bytes < 2 * kLargePage ? bytes : (bytes + kLargePage - 1) / kLargePage * kLargePage;
 }
 
+// Tables below this size share mappings of kSharedBytes, handed out one
+// after the other and never reused, so that what a table gets is as
+// untouched as a mapping of its own, without a call to the system for
+// each one. A shared mapping goes back once all its tables are gone.
+constexpr std::size_t kOwnMappingBytes = 64 * 1024;
+constexpr std::size_t kSharedBytes = 1 << 20;
+
+struct SharedMapping {
+  std::size_t used; // bytes handed out, this heading included
+  std::size_t live; // tables not yet given back
+};
+
+std::mutex sharedLock;
+SharedMapping* current = nullptr;
+
+// A mapping of `bytes` that starts on a multiple of `alignment`.
+char* alignedMap(std::size_t bytes, std::size_t alignment) {
+  auto* mapped = static_cast<char*>(map(bytes + alignment));
+  if (!mapped)
+    return nullptr;
+  const auto at = reinterpret_cast<std::uintptr_t>(mapped);
+  const std::size_t head = (alignment - at % alignment) % alignment;
+  if (head > 0)
+    munmap(mapped, head);
+  munmap(mapped + head + bytes, alignment - head);
+  return mapped + head;
+}
+
+void* sharedPages(std::size_t bytes) {
+  bytes = (bytes + 63) / 64 * 64;
+  const std::lock_guard<std::mutex> lock(sharedLock);
+  if (!current || current->used + bytes > kSharedBytes) {
+    if (current && current->live == 0)
+      munmap(current, kSharedBytes);
+    current = reinterpret_cast<SharedMapping*>(alignedMap(kSharedBytes, kSharedBytes));
+    if (!current)
+      return nullptr;
+    *current = {64, 0};
+  }
+  void* cells = reinterpret_cast<char*>(current) + current->used;
+  current->used += bytes;
+  ++current->live;
+  return cells;
+}
+
+void returnShared(void* cells) {
+  const std::lock_guard<std::mutex> lock(sharedLock);
+  auto* mapping = reinterpret_cast<SharedMapping*>(reinterpret_cast<std::uintptr_t>(cells) / kSharedBytes *
+                                                    kSharedBytes);
+  if (--mapping->live == 0 && mapping != current)
+    munmap(mapping, kSharedBytes);
+}
+
 } // namespace
 
 // A table of several large pages starts on a large-page boundary, so that
 // all of it can be served in large pages.
 void* zeroPages(std::size_t bytes) {
+  if (bytes < kOwnMappingBytes)
+    return sharedPages(bytes);
   if (bytes < 2 * kLargePage)
     return map(bytes);
-  bytes = mappedBytes(bytes);
-  auto* mapped = static_cast<char*>(map(bytes + kLargePage));
-  if (!mapped)
-    return nullptr;
-  const auto at = reinterpret_cast<std::uintptr_t>(mapped);
-  const std::size_t head = (kLargePage - at % kLargePage) % kLargePage;
-  if (head > 0)
-    munmap(mapped, head);
-  munmap(mapped + head + bytes, kLargePage - head);
-  return mapped + head;
+  return alignedMap(mappedBytes(bytes), kLargePage);
 }
 
-void returnPages(void* pages, std::size_t bytes) { munmap(pages, mappedBytes(bytes)); }
+void returnPages(void* pages, std::size_t bytes) {
+  if (bytes < kOwnMappingBytes)
+    returnShared(pages);
+  else
+    munmap(pages, mappedBytes(bytes));
+}
 
 void expectWrites(void* first, std::size_t bytes) {
   if (bytes == 0)

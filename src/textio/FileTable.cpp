@@ -6,30 +6,11 @@
 
 #include <cerrno>
 #include <exception>
-#include <fstream>
 #include <memory>
 
+#include <fcntl.h>
+
 namespace vorlex {
-
-namespace {
-
-// A file written in blocks of 64 KB: a long run writes megabytes, and each
-// block is one call to the system. The block outlives the stream, which
-// hands it its last lines when it closes.
-struct WriteBlock {
-  static constexpr std::size_t kSize = 64 * 1024;
-  std::unique_ptr<char[]> block = std::make_unique<char[]>(kSize);
-};
-
-class BlockWrittenFile : private WriteBlock, public std::ofstream {
-public:
-  BlockWrittenFile(const std::string& path, std::ios::openmode mode) {
-    rdbuf()->pubsetbuf(block.get(), kSize);
-    open(path, mode);
-  }
-};
-
-} // namespace
 
 void FileTable::checkFree(int number) const {
   if (number < 1 || number > kLargestNumber)
@@ -42,14 +23,14 @@ void FileTable::openWriting(int number, const std::string& path, bool append) {
   checkFree(number);
   if (path.empty())
     raise(ErrorCode::BadFileNameOrNumber);
-  auto stream = std::make_unique<BlockWrittenFile>(
-      path, std::ios::binary | std::ios::out | (append ? std::ios::app : std::ios::trunc));
-  if (!*stream)
-    raise(errno == ENOENT ? ErrorCode::PathNotFound : ErrorCode::PathFileAccessError,
-          "File: " + path);
+  // A file to replace is written over and cut to its new length when it
+  // closes (see OutputFile), not emptied first.
+  const int fd = ::open(path.c_str(), O_WRONLY | O_CREAT | O_CLOEXEC | (append ? O_APPEND : 0), 0666);
+  if (fd < 0)
+    raise(errno == ENOENT ? ErrorCode::PathNotFound : ErrorCode::PathFileAccessError, "File: " + path);
   Entry entry;
   entry.path = path;
-  entry.output = std::make_unique<OutputFile>(std::move(stream), path);
+  entry.output = std::make_unique<OutputFile>(fd, path, !append);
   entry.openedAs = ++openings_;
   open_.emplace(number, std::move(entry));
   if (std::find(written_.begin(), written_.end(), path) == written_.end())

@@ -3,20 +3,54 @@
 #include "textio/RuntimeError.h"
 
 #include <cerrno>
-#include <fstream>
+#include <utility>
+
+#include <sys/stat.h>
+#include <unistd.h>
 
 namespace vorlex {
 
-OutputFile::OutputFile(std::unique_ptr<std::ostream> stream, std::string name)
-    : stream_(std::move(stream)), name_(std::move(name)) {}
+OutputFile::OutputFile(int fd, std::string name, bool replacing)
+    : fd_(fd), name_(std::move(name)), replacing_(replacing) {
+  buffer_.reserve(kBlockSize + kNumberTextRoom);
+}
 
-// A stream that failed tells why only through errno.
-void OutputFile::checkWritten() {
-  if (stream_->good())
+OutputFile::OutputFile(OutputFile&& other) noexcept
+    : buffer_(std::move(other.buffer_)), fd_(std::exchange(other.fd_, -1)), name_(std::move(other.name_)),
+      replacing_(other.replacing_), handedOver_(other.handedOver_), column_(other.column_) {}
+
+OutputFile::~OutputFile() {
+  if (fd_ < 0)
     return;
-  const bool full = errno == ENOSPC;
-  stream_->clear();
-  raise(full ? ErrorCode::DiskFull : ErrorCode::DeviceIOError, name_.empty() ? "" : "File: " + name_);
+  try {
+    close();
+  } catch (const RuntimeError&) {
+    // Nothing to tell at this point: the file is left as far as it went.
+  }
+}
+
+bool OutputFile::handOver() {
+  std::size_t done = 0;
+  while (done < buffer_.size()) {
+    const ssize_t written = ::write(fd_, buffer_.data() + done, buffer_.size() - done);
+    if (written < 0 && errno == EINTR)
+      continue;
+    if (written <= 0) {
+      if (written == 0)
+        errno = ENOSPC;
+      buffer_.erase(0, done);
+      handedOver_ += static_cast<long long>(done);
+      return false;
+    }
+    done += static_cast<std::size_t>(written);
+  }
+  handedOver_ += static_cast<long long>(done);
+  buffer_.clear();
+  return true;
+}
+
+void OutputFile::raiseWriteFailure() const {
+  raise(errno == ENOSPC ? ErrorCode::DiskFull : ErrorCode::DeviceIOError, name_.empty() ? "" : "File: " + name_);
 }
 
 std::string rule(char c, int count) {
@@ -27,36 +61,49 @@ std::string rule(char c, int count) {
   return line;
 }
 
-OutputFile OutputFile::inMemory() { return OutputFile(std::make_unique<std::ostringstream>()); }
+OutputFile OutputFile::inMemory() { return OutputFile(-1, {}, false); }
 
 void OutputFile::endLine() {
-  *stream_ << "\r\n";
+  buffer_ += "\r\n";
   column_ = 1;
-  checkWritten();
+  if (fd_ >= 0 && buffer_.size() >= kBlockSize && !handOver())
+    raiseWriteFailure();
 }
 
-std::string OutputFile::text() const {
-  auto* memory = dynamic_cast<std::ostringstream*>(stream_.get());
-  return memory ? memory->str() : std::string{};
-}
+std::string OutputFile::text() const { return fd_ < 0 ? buffer_ : std::string{}; }
 
 void OutputFile::flush() {
-  errno = 0;
-  stream_->flush();
-  checkWritten();
+  if (fd_ >= 0 && !handOver())
+    raiseWriteFailure();
 }
 
 void OutputFile::close() {
-  flush();
-  if (auto* file = dynamic_cast<std::ofstream*>(stream_.get())) {
-    errno = 0;
-    file->close();
-    checkWritten();
+  if (fd_ < 0)
+    return;
+  const int fd = fd_;
+  bool written = handOver();
+  int failure = written ? 0 : errno;
+  // Written over, the file loses what lay beyond the new text. Only a
+  // file on the disk has a length to cut: not a device, not a pipe.
+  struct stat status {};
+  if (written && replacing_ && fstat(fd, &status) == 0 && S_ISREG(status.st_mode) &&
+      status.st_size != handedOver_ && ftruncate(fd, handedOver_) != 0) {
+    written = false;
+    failure = errno;
+  }
+  fd_ = -1;
+  if (::close(fd) != 0 && written) {
+    written = false;
+    failure = errno;
+  }
+  if (!written) {
+    errno = failure;
+    raiseWriteFailure();
   }
 }
 
 void OutputFile::putText(std::string_view text) {
-  stream_->write(text.data(), static_cast<std::streamsize>(text.size()));
+  buffer_.append(text);
   // A prompt-like text may carry its own line ends; the column follows them.
   const auto lastBreak = text.find_last_of('\n');
   if (lastBreak == std::string_view::npos)

@@ -4,9 +4,6 @@
 #include "textio/Value.h"
 
 #include <concepts>
-#include <memory>
-#include <ostream>
-#include <sstream>
 #include <string>
 #include <string_view>
 
@@ -39,11 +36,20 @@ class OutputFile {
 public:
   static constexpr int kZoneWidth = 14;
 
-  /// A file written to `stream`; `name` says which file a write failure
-  /// happened in.
-  explicit OutputFile(std::unique_ptr<std::ostream> stream, std::string name = {});
+  /// A file written to the open file descriptor `fd`, which it owns; `name`
+  /// says which file a write failure happened in. A file opened to replace
+  /// what it held (`replacing`) is cut to what was written when it closes:
+  /// it was written over rather than emptied first, which costs the system
+  /// far less when a run writes its files again.
+  OutputFile(int fd, std::string name, bool replacing);
   /// A file that collects its text in memory, see text().
   static OutputFile inMemory();
+  OutputFile(OutputFile&& other) noexcept;
+  OutputFile& operator=(OutputFile&&) = delete;
+  OutputFile(const OutputFile&) = delete;
+  OutputFile& operator=(const OutputFile&) = delete;
+  /// A file not closed hands over what it holds, quietly.
+  ~OutputFile();
 
   /// Print line: the items one after the other, numbers in the print form,
   /// texts as they stand; the line is ended.
@@ -99,10 +105,19 @@ private:
     writeNumber(static_cast<double>(number), first);
   }
   void writeNumber(double number, bool first);
-  void checkWritten();
+  // Hands the buffer to the system; false with errno set when it fails.
+  bool handOver();
+  void raiseWriteFailure() const;
 
-  std::unique_ptr<std::ostream> stream_;
+  // Text is handed to the system in blocks of this size: a long run
+  // writes megabytes, and each block is one call to the system.
+  static constexpr std::size_t kBlockSize = 64 * 1024;
+
+  std::string buffer_;
+  int fd_ = -1; // -1: the text stays in memory
   std::string name_;
+  bool replacing_ = false;
+  long long handedOver_ = 0; // bytes taken by the system
   int column_ = 1;
 };
 

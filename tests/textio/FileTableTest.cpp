@@ -122,5 +122,23 @@ TEST_F(FileTableTest, OutputReplacesAndAppendExtends) {
   EXPECT_EQ(contentOf(path), "short\r\n.5\r\n");
 }
 
+// A file is written over and cut at its close: also when the text of the
+// first writing took several blocks, and when the file is left open to the
+// end of the table that holds it.
+TEST_F(FileTableTest, ReplacedFileLosesWhatLayBeyondItsNewText) {
+  const std::string path = pathOf("long.txt");
+  files_.openOutput(5, path);
+  for (int line = 0; line < 20000; ++line)
+    files_.output(5).print("line", line);
+  files_.close(5);
+  EXPECT_GT(contentOf(path).size(), 200000u);
+  {
+    FileTable left;
+    left.openOutput(5, path);
+    left.output(5).print("kept");
+  }
+  EXPECT_EQ(contentOf(path), "kept\r\n");
+}
+
 } // namespace
 } // namespace vorlex
