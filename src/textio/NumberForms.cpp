@@ -2,7 +2,9 @@
 
 #include "textio/RuntimeError.h"
 
+#include <array>
 #include <charconv>
+#include <cstdint>
 #include <cmath>
 #include <cstdio>
 #include <cstdlib>
@@ -25,6 +27,92 @@ namespace {
 constexpr std::size_t kDigitsRoom = kNumberTextRoom - 1;
 }
 
+namespace {
+
+using u128 = unsigned __int128;
+
+constexpr std::uint64_t kFifteenDigits = 100000000000000u; // the smallest number of 15 digits
+
+// 5^k for k = 0..32.
+constexpr auto kPowersOfFive = [] {
+  std::array<u128, 33> powers{};
+  powers[0] = 1;
+  for (std::size_t k = 1; k < powers.size(); ++k)
+    powers[k] = powers[k - 1] * 5;
+  return powers;
+}();
+
+// |value| x 10^k rounded to an integer, halves to even, as printf rounds
+// the exact value of a double: m x 2^q x 10^k = m x 5^k x 2^(q+k), which
+// for the k at hand is exact in 128 bits. False where it is not.
+bool scaledAndRounded(std::uint64_t m, int q, int k, std::uint64_t& rounded) {
+  if (k < 0 || k >= static_cast<int>(kPowersOfFive.size()))
+    return false;
+  const u128 product = m * kPowersOfFive[static_cast<std::size_t>(k)];
+  const int shift = q + k;
+  if (shift >= 0) {
+    if (shift > 20)
+      return false;
+    rounded = static_cast<std::uint64_t>(product << shift);
+    return true;
+  }
+  if (-shift >= 127)
+    return false;
+  const u128 whole = product >> -shift;
+  const u128 rest = product - (whole << -shift);
+  const u128 half = u128{1} << (-shift - 1);
+  rounded = static_cast<std::uint64_t>(whole) + ((rest > half || (rest == half && (whole & 1) != 0)) ? 1 : 0);
+  return true;
+}
+
+// The 15 significant digits of a positive finite value, correctly rounded
+// as printf's "%.14e" gives them, and its decimal exponent, worked out in
+// integers; false for magnitudes beyond about 1e-18..1e15, left to the
+// library.
+bool fifteenDigits(double value, std::uint64_t& digits, int& exponent) {
+  int binaryExponent = 0;
+  const double fraction = std::frexp(value, &binaryExponent); // value = fraction x 2^binaryExponent
+  if (value < 1e-18 || value >= 1e15)
+    return false;
+  const auto m = static_cast<std::uint64_t>(std::ldexp(fraction, 53));
+  const int q = binaryExponent - 53;
+  // A first guess of floor(log10(value)), at most one too small or large.
+  int guess = static_cast<int>(std::floor((binaryExponent - 1) * 0.30102999566398120));
+  for (int tries = 0; tries < 3; ++tries) {
+    std::uint64_t rounded = 0;
+    if (!scaledAndRounded(m, q, 14 - guess, rounded))
+      return false;
+    if (rounded < kFifteenDigits) {
+      --guess;
+      continue;
+    }
+    if (rounded >= 10 * kFifteenDigits) {
+      // Rounding up to the next power of ten is that power's first digit.
+      if (rounded == 10 * kFifteenDigits) {
+        digits = kFifteenDigits;
+        exponent = guess + 1;
+        return true;
+      }
+      ++guess;
+      continue;
+    }
+    digits = rounded;
+    exponent = guess;
+    return true;
+  }
+  return false;
+}
+
+// The 15 digits of 10^14 <= digits < 10^15 into `out`.
+void putFifteen(std::uint64_t digits, char* out) {
+  for (int i = 14; i >= 0; --i) {
+    out[i] = static_cast<char>('0' + digits % 10);
+    digits /= 10;
+  }
+}
+
+} // namespace
+
 std::size_t writeDigits(double value, char* out) {
   if (value == 0.0 || std::isnan(value)) {
     out[0] = '0';
@@ -35,17 +123,23 @@ std::size_t writeDigits(double value, char* out) {
 
   // The significant digits and the decimal exponent of the value correctly
   // rounded to 15 significant digits: "d.dddddddddddddde+XX".
-  char text[kDigitsRoom];
-  const auto written =
-      std::to_chars(text, text + sizeof text, std::fabs(value), std::chars_format::scientific, 14);
   char mantissa[20];
-  std::size_t count = 0;
-  const char* p = text;
-  for (; *p != 'e'; ++p)
-    if (*p != '.')
-      mantissa[count++] = *p;
+  std::size_t count = 15;
   int exponent = 0;
-  std::from_chars(p + (p[1] == '+' ? 2 : 1), written.ptr, exponent);
+  std::uint64_t fifteen = 0;
+  if (fifteenDigits(std::fabs(value), fifteen, exponent)) {
+    putFifteen(fifteen, mantissa);
+  } else {
+    char text[kDigitsRoom];
+    const auto written =
+        std::to_chars(text, text + sizeof text, std::fabs(value), std::chars_format::scientific, 14);
+    count = 0;
+    const char* p = text;
+    for (; *p != 'e'; ++p)
+      if (*p != '.')
+        mantissa[count++] = *p;
+    std::from_chars(p + (p[1] == '+' ? 2 : 1), written.ptr, exponent);
+  }
   while (count > 1 && mantissa[count - 1] == '0')
     --count;
 

@@ -131,7 +131,16 @@ TEST(NumberFormsDigits, FifteenCorrectlyRoundedDigitsForEveryDouble) {
     values.push_back(value);
     values.push_back(std::nextafter(value, 0.0));
     values.push_back(std::nextafter(value, 1e300));
+    // Everyday magnitudes, 1e-19 to 1e16, where the digits are worked out
+    // in integers, and halves of the 16th digit, where rounding goes to
+    // the even digit.
+    value = std::pow(10.0, std::uniform_real_distribution<double>(-19, 16)(random));
+    values.push_back(value);
+    const double tie = static_cast<double>(random() % 900000000000000u + 100000000000000u) + 0.5;
+    values.push_back(std::ldexp(tie, static_cast<int>(random() % 100) - 60));
   }
+  for (const double edge : {1e-18, 1e15, 1e14, 1.0})
+    values.insert(values.end(), {edge, std::nextafter(edge, 0.0), std::nextafter(edge, 1e300)});
   for (const double value : values) {
     char reference[40];
     std::snprintf(reference, sizeof reference, "%.14e", value);
