@@ -3,6 +3,7 @@
 #include "textio/RuntimeError.h"
 
 #include <array>
+#include <bit>
 #include <charconv>
 #include <cstdint>
 #include <cmath>
@@ -70,14 +71,16 @@ bool scaledAndRounded(std::uint64_t m, int q, int k, std::uint64_t& rounded) {
 // integers; false for magnitudes beyond about 1e-18..1e15, left to the
 // library.
 bool fifteenDigits(double value, std::uint64_t& digits, int& exponent) {
-  int binaryExponent = 0;
-  const double fraction = std::frexp(value, &binaryExponent); // value = fraction x 2^binaryExponent
   if (value < 1e-18 || value >= 1e15)
     return false;
-  const auto m = static_cast<std::uint64_t>(std::ldexp(fraction, 53));
-  const int q = binaryExponent - 53;
-  // A first guess of floor(log10(value)), at most one too small or large.
-  int guess = static_cast<int>(std::floor((binaryExponent - 1) * 0.30102999566398120));
+  // value = m x 2^q, with m an integer of 53 bits (the value is normal).
+  const auto bits = std::bit_cast<std::uint64_t>(value);
+  const int biased = static_cast<int>(bits >> 52);
+  const std::uint64_t m = (bits & ((std::uint64_t{1} << 52) - 1)) | (std::uint64_t{1} << 52);
+  const int q = biased - 1075;
+  // floor(log10(2^(biased - 1023))), the first guess of floor(log10(value)),
+  // at most one too small.
+  int guess = ((biased - 1023) * 78913) >> 18;
   for (int tries = 0; tries < 3; ++tries) {
     std::uint64_t rounded = 0;
     if (!scaledAndRounded(m, q, 14 - guess, rounded))
@@ -103,12 +106,24 @@ bool fifteenDigits(double value, std::uint64_t& digits, int& exponent) {
   return false;
 }
 
+constexpr char kDigitPairs[] = "00010203040506070809101112131415161718192021222324252627282930313233343536373839"
+                               "40414243444546474849505152535455565758596061626364656667686970717273747576777879"
+                               "8081828384858687888990919293949596979899";
+
+// The eight digits of 0 <= digits < 10^8 into `out`, two at a time.
+void putEight(std::uint32_t digits, char* out) {
+  for (int i = 6; i >= 0; i -= 2) {
+    std::copy_n(kDigitPairs + 2 * (digits % 100), 2, out + i);
+    digits /= 100;
+  }
+}
+
 // The 15 digits of 10^14 <= digits < 10^15 into `out`.
 void putFifteen(std::uint64_t digits, char* out) {
-  for (int i = 14; i >= 0; --i) {
-    out[i] = static_cast<char>('0' + digits % 10);
-    digits /= 10;
-  }
+  char high[8];
+  putEight(static_cast<std::uint32_t>(digits / 100000000), high);
+  std::copy_n(high + 1, 7, out);
+  putEight(static_cast<std::uint32_t>(digits % 100000000), out + 7);
 }
 
 } // namespace
