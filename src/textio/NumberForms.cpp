@@ -43,6 +43,13 @@ constexpr auto kPowersOfFive = [] {
   return powers;
 }();
 
+// 10^k as doubles for k = -19..16.
+constexpr int kSmallestPowerOfTen = -19;
+constexpr std::array<double, 36> kPowersOfTen = {
+    1e-19, 1e-18, 1e-17, 1e-16, 1e-15, 1e-14, 1e-13, 1e-12, 1e-11, 1e-10, 1e-9, 1e-8,
+    1e-7,  1e-6,  1e-5,  1e-4,  1e-3,  1e-2,  1e-1,  1e0,   1e1,   1e2,   1e3,  1e4,
+    1e5,   1e6,   1e7,   1e8,   1e9,   1e10,  1e11,  1e12,  1e13,  1e14,  1e15, 1e16};
+
 // |value| x 10^k rounded to an integer, halves to even, as printf rounds
 // the exact value of a double: m x 2^q x 10^k = m x 5^k x 2^(q+k), which
 // for the k at hand is exact in 128 bits. False where it is not.
@@ -78,9 +85,12 @@ bool fifteenDigits(double value, std::uint64_t& digits, int& exponent) {
   const int biased = static_cast<int>(bits >> 52);
   const std::uint64_t m = (bits & ((std::uint64_t{1} << 52) - 1)) | (std::uint64_t{1} << 52);
   const int q = biased - 1075;
-  // floor(log10(2^(biased - 1023))), the first guess of floor(log10(value)),
-  // at most one too small.
+  // floor(log10(2^(biased - 1023))) is floor(log10(value)) or one less;
+  // a power of ten in doubles tells which, but for a value next to it,
+  // which the loop below puts right.
   int guess = ((biased - 1023) * 78913) >> 18;
+  if (value >= kPowersOfTen[static_cast<std::size_t>(guess + 1 - kSmallestPowerOfTen)])
+    ++guess;
   for (int tries = 0; tries < 3; ++tries) {
     std::uint64_t rounded = 0;
     if (!scaledAndRounded(m, q, 14 - guess, rounded))

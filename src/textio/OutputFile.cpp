@@ -2,6 +2,7 @@
 
 #include "textio/RuntimeError.h"
 
+#include <algorithm>
 #include <cerrno>
 #include <utility>
 
@@ -12,11 +13,20 @@ namespace vorlex {
 
 OutputFile::OutputFile(int fd, std::string name, bool replacing)
     : fd_(fd), name_(std::move(name)), replacing_(replacing) {
-  buffer_.reserve(kBlockSize + kNumberTextRoom);
+  grow(fd >= 0 ? kBlockSize + 1024 : 1024);
+}
+
+void OutputFile::grow(std::size_t needed) {
+  const std::size_t capacity = std::max(needed, 2 * capacity_);
+  auto larger = std::make_unique_for_overwrite<char[]>(capacity);
+  std::copy_n(buffer_.get(), size_, larger.get());
+  buffer_ = std::move(larger);
+  capacity_ = capacity;
 }
 
 OutputFile::OutputFile(OutputFile&& other) noexcept
-    : buffer_(std::move(other.buffer_)), fd_(std::exchange(other.fd_, -1)), name_(std::move(other.name_)),
+    : buffer_(std::move(other.buffer_)), size_(std::exchange(other.size_, 0)),
+      capacity_(std::exchange(other.capacity_, 0)), fd_(std::exchange(other.fd_, -1)), name_(std::move(other.name_)),
       replacing_(other.replacing_), handedOver_(other.handedOver_), column_(other.column_) {}
 
 OutputFile::~OutputFile() {
@@ -31,21 +41,22 @@ OutputFile::~OutputFile() {
 
 bool OutputFile::handOver() {
   std::size_t done = 0;
-  while (done < buffer_.size()) {
-    const ssize_t written = ::write(fd_, buffer_.data() + done, buffer_.size() - done);
+  while (done < size_) {
+    const ssize_t written = ::write(fd_, buffer_.get() + done, size_ - done);
     if (written < 0 && errno == EINTR)
       continue;
     if (written <= 0) {
       if (written == 0)
         errno = ENOSPC;
-      buffer_.erase(0, done);
+      std::copy(buffer_.get() + done, buffer_.get() + size_, buffer_.get());
+      size_ -= done;
       handedOver_ += static_cast<long long>(done);
       return false;
     }
     done += static_cast<std::size_t>(written);
   }
   handedOver_ += static_cast<long long>(done);
-  buffer_.clear();
+  size_ = 0;
   return true;
 }
 
@@ -64,13 +75,16 @@ std::string rule(char c, int count) {
 OutputFile OutputFile::inMemory() { return OutputFile(-1, {}, false); }
 
 void OutputFile::endLine() {
-  buffer_ += "\r\n";
+  char* at = room(2);
+  at[0] = '\r';
+  at[1] = '\n';
+  size_ += 2;
   column_ = 1;
-  if (fd_ >= 0 && buffer_.size() >= kBlockSize && !handOver())
+  if (fd_ >= 0 && size_ >= kBlockSize && !handOver())
     raiseWriteFailure();
 }
 
-std::string OutputFile::text() const { return fd_ < 0 ? buffer_ : std::string{}; }
+std::string OutputFile::text() const { return fd_ < 0 ? std::string(buffer_.get(), size_) : std::string{}; }
 
 void OutputFile::flush() {
   if (fd_ >= 0 && !handOver())
@@ -103,7 +117,8 @@ void OutputFile::close() {
 }
 
 void OutputFile::putText(std::string_view text) {
-  buffer_.append(text);
+  std::copy(text.begin(), text.end(), room(text.size()));
+  size_ += text.size();
   // A prompt-like text may carry its own line ends; the column follows them.
   const auto lastBreak = text.find_last_of('\n');
   if (lastBreak == std::string_view::npos)
@@ -152,19 +167,21 @@ void OutputFile::writeItem(const Value& value, bool first) {
 }
 
 void OutputFile::putNumber(double number) {
-  char text[kNumberTextRoom];
-  const std::size_t size = writeBlankLed(number, text);
-  text[size] = ' ';
-  putText(std::string_view(text, size + 1));
+  char* at = room(kNumberTextRoom);
+  const std::size_t size = writeBlankLed(number, at);
+  at[size] = ' ';
+  size_ += size + 1;
+  column_ += static_cast<int>(size + 1);
 }
 
 void OutputFile::writeNumber(double number, bool first) {
-  char text[kNumberTextRoom + 1];
-  char* at = text;
+  char* const start = room(kNumberTextRoom + 1);
+  char* at = start;
   if (!first)
     *at++ = ',';
   at += writeDigits(number, at);
-  putText(std::string_view(text, static_cast<std::size_t>(at - text)));
+  size_ += static_cast<std::size_t>(at - start);
+  column_ += static_cast<int>(at - start);
 }
 
 } // namespace vorlex

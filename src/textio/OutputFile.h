@@ -4,6 +4,7 @@
 #include "textio/Value.h"
 
 #include <concepts>
+#include <memory>
 #include <string>
 #include <string_view>
 
@@ -113,7 +114,17 @@ private:
   // writes megabytes, and each block is one call to the system.
   static constexpr std::size_t kBlockSize = 64 * 1024;
 
-  std::string buffer_;
+  // Room for `count` more characters at the end of the buffer.
+  char* room(std::size_t count) {
+    if (size_ + count > capacity_)
+      grow(size_ + count);
+    return buffer_.get() + size_;
+  }
+  void grow(std::size_t needed);
+
+  std::unique_ptr<char[]> buffer_;
+  std::size_t size_ = 0;
+  std::size_t capacity_ = 0;
   int fd_ = -1; // -1: the text stays in memory
   std::string name_;
   bool replacing_ = false;
