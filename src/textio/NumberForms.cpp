@@ -120,20 +120,30 @@ constexpr char kDigitPairs[] = "000102030405060708091011121314151617181920212223
                                "40414243444546474849505152535455565758596061626364656667686970717273747576777879"
                                "8081828384858687888990919293949596979899";
 
-// The eight digits of 0 <= digits < 10^8 into `out`, two at a time.
-void putEight(std::uint32_t digits, char* out) {
-  for (int i = 6; i >= 0; i -= 2) {
-    std::copy_n(kDigitPairs + 2 * (digits % 100), 2, out + i);
+// 10^k as integers for k = 0..15.
+constexpr auto kIntegerPowersOfTen = [] {
+  std::array<std::uint64_t, 16> powers{};
+  powers[0] = 1;
+  for (std::size_t k = 1; k < powers.size(); ++k)
+    powers[k] = powers[k - 1] * 10;
+  return powers;
+}();
+
+// The `count` digits of digits < 10^count into `out`, two at a time from
+// the last; returns the end.
+char* putDigits(std::uint64_t digits, int count, char* out) {
+  char* const end = out + count;
+  char* at = end;
+  for (; count >= 2; count -= 2) {
+    at -= 2;
+    const std::size_t pair = 2 * (digits % 100);
+    at[0] = kDigitPairs[pair];
+    at[1] = kDigitPairs[pair + 1];
     digits /= 100;
   }
-}
-
-// The 15 digits of 10^14 <= digits < 10^15 into `out`.
-void putFifteen(std::uint64_t digits, char* out) {
-  char high[8];
-  putEight(static_cast<std::uint32_t>(digits / 100000000), high);
-  std::copy_n(high + 1, 7, out);
-  putEight(static_cast<std::uint32_t>(digits % 100000000), out + 7);
+  if (count == 1)
+    *--at = static_cast<char>('0' + digits);
+  return end;
 }
 
 } // namespace
@@ -146,36 +156,36 @@ std::size_t writeDigits(double value, char* out) {
   if (std::isinf(value))
     raise(ErrorCode::Overflow);
 
-  // The significant digits and the decimal exponent of the value correctly
-  // rounded to 15 significant digits: "d.dddddddddddddde+XX".
-  char mantissa[20];
-  std::size_t count = 15;
+  // The value correctly rounded to 15 significant digits,
+  // "d.dddddddddddddde+XX": the digits as an integer of 15 digits and the
+  // decimal exponent.
+  std::uint64_t digits = 0;
   int exponent = 0;
-  std::uint64_t fifteen = 0;
-  if (fifteenDigits(std::fabs(value), fifteen, exponent)) {
-    putFifteen(fifteen, mantissa);
-  } else {
+  if (!fifteenDigits(std::fabs(value), digits, exponent)) {
     char text[kDigitsRoom];
     const auto written =
         std::to_chars(text, text + sizeof text, std::fabs(value), std::chars_format::scientific, 14);
-    count = 0;
     const char* p = text;
     for (; *p != 'e'; ++p)
       if (*p != '.')
-        mantissa[count++] = *p;
+        digits = 10 * digits + static_cast<std::uint64_t>(*p - '0');
     std::from_chars(p + (p[1] == '+' ? 2 : 1), written.ptr, exponent);
   }
-  while (count > 1 && mantissa[count - 1] == '0')
+  int count = 15;
+  while (count > 1 && digits % 10 == 0) {
+    digits /= 10;
     --count;
+  }
 
   char* o = out;
   if (value < 0)
     *o++ = '-';
   if (exponent < kSmallestFixedExponent || exponent > kLargestFixedExponent) {
-    *o++ = mantissa[0];
+    const std::uint64_t rest = kIntegerPowersOfTen[static_cast<std::size_t>(count - 1)];
+    *o++ = static_cast<char>('0' + digits / rest);
     if (count > 1) {
       *o++ = '.';
-      o = std::copy(mantissa + 1, mantissa + count, o);
+      o = putDigits(digits % rest, count - 1, o);
     }
     *o++ = 'E';
     *o++ = exponent < 0 ? '-' : '+';
@@ -188,18 +198,19 @@ std::size_t writeDigits(double value, char* out) {
   if (exponent < 0) {
     *o++ = '.';
     o = std::fill_n(o, -exponent - 1, '0');
-    o = std::copy(mantissa, mantissa + count, o);
+    o = putDigits(digits, count, o);
     return static_cast<std::size_t>(o - out);
   }
-  const auto integerDigits = static_cast<std::size_t>(exponent) + 1;
+  const int integerDigits = exponent + 1;
   if (count <= integerDigits) {
-    o = std::copy(mantissa, mantissa + count, o);
+    o = putDigits(digits, count, o);
     o = std::fill_n(o, integerDigits - count, '0');
     return static_cast<std::size_t>(o - out);
   }
-  o = std::copy(mantissa, mantissa + integerDigits, o);
+  const std::uint64_t fraction = kIntegerPowersOfTen[static_cast<std::size_t>(count - integerDigits)];
+  o = putDigits(digits / fraction, integerDigits, o);
   *o++ = '.';
-  o = std::copy(mantissa + integerDigits, mantissa + count, o);
+  o = putDigits(digits % fraction, count - integerDigits, o);
   return static_cast<std::size_t>(o - out);
 }
 
