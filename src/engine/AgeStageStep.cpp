@@ -2,22 +2,38 @@
 
 namespace vorlex {
 
+namespace {
+
+// Rows first..last of stage j of `to`, from the rows before in `from`.
+void developStage(int j, int stages, int first, int last, const Cells& growth, const Cells& develop,
+                  const Cells& from, const Cells& to, const PerStage& survival, const PerStage& inflow) {
+  const int m = stages;
+  const double* n = from.stage(j);
+  const double* g = growth.stage(j);
+  double* next = to.stage(j);
+  if (j == 1) {
+    for (int x = first; x <= last; ++x)
+      next[x] = n[x - 1] * g[x - 1] * survival[1];
+    return;
+  }
+  // The male, the last stage, takes the inflow of the stage before the
+  // female at the female's rate, and no extra mortality.
+  const double* source = from.stage(j < m ? j - 1 : m - 2);
+  const double* d = develop.stage(j - 1);
+  if (j < m)
+    for (int x = first; x <= last; ++x)
+      next[x] = (d[x - 1] * source[x - 1] * inflow[j] + n[x - 1] * g[x - 1]) * survival[j];
+  else
+    for (int x = first; x <= last; ++x)
+      next[x] = (d[x - 1] * source[x - 1] + n[x - 1] * g[x - 1]) * survival[m];
+}
+
+} // namespace
+
 void developAges(int lastAge, int stages, const Cells& growth, const Cells& develop, const Cells& from,
                  const Cells& to, const PerStage& survival, const PerStage& inflow) {
-  const int m = stages;
-  if (m < 1)
-    return;
-  for (int x = 1; x <= lastAge; ++x) {
-    const double* n = from.row(x - 1);
-    const double* g = growth.row(x - 1);
-    const double* d = develop.row(x - 1);
-    double* next = to.row(x);
-    next[1] = n[1] * g[1] * survival[1];
-    for (int j = 2; j < m; ++j)
-      next[j] = (d[j - 1] * n[j - 1] * inflow[j] + n[j] * g[j]) * survival[j];
-    if (m > 1)
-      next[m] = (d[m - 1] * n[m - 2] + n[m] * g[m]) * survival[m];
-  }
+  for (int j = 1; j <= stages; ++j)
+    developStage(j, stages, 1, lastAge, growth, develop, from, to, survival, inflow);
 }
 
 } // namespace vorlex
@@ -79,29 +95,20 @@ void developAgesInWindows(int lastAge, int stages, const Cells& growth, const Ce
       fed[j] = fed[j].joinedWith(fromAges[source].within(rates.move[j - 1]).older());
     fed[j] = fed[j].within(rows);
   }
-  // Where most of the matrix is occupied, the walk row by row over all of
-  // it is the faster.
+  // Where most of the matrix is occupied, the walk over all of it is as
+  // fast, and has nothing to clear.
   if (mostlyOccupied(lastAge, stages, fed)) {
     developAges(lastAge, stages, growth, develop, from, to, survival, inflow);
     toAges = fed;
     return;
   }
   for (int j = 1; j <= m; ++j) {
+    double* next = to.stage(j);
     const AgeWindow stale = toAges[j].within(rows);
     for (int x = stale.first; x <= stale.last; ++x)
       if (!fed[j].holds(x))
-        to(x, j) = 0;
-    for (int x = fed[j].first; x <= fed[j].last; ++x) {
-      const double* n = from.row(x - 1);
-      const double* g = growth.row(x - 1);
-      const double* d = develop.row(x - 1);
-      if (j == 1)
-        to(x, j) = n[1] * g[1] * survival[1];
-      else if (j < m)
-        to(x, j) = (d[j - 1] * n[j - 1] * inflow[j] + n[j] * g[j]) * survival[j];
-      else
-        to(x, j) = (d[m - 1] * n[m - 2] + n[m] * g[m]) * survival[m];
-    }
+        next[x] = 0;
+    developStage(j, m, fed[j].first, fed[j].last, growth, develop, from, to, survival, inflow);
     toAges[j] = fed[j];
   }
 }

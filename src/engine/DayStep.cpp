@@ -281,21 +281,13 @@ private:
   }
 
   void thinOut(const Cells& matrix, const AgeWindows& ages, double level) const {
-    if (dense(ages)) {
-      for (int x = 0; x <= lastAge_; ++x)
-        for (int j = 1; j <= stages_; ++j)
-          matrix(x, j) = (1 - density_(x, j) * level) * matrix(x, j);
-      return;
-    }
-    for (int j = 1; j <= stages_; ++j)
+    for (int j = 1; j <= stages_; ++j) {
+      double* n = matrix.stage(j);
+      const double* coefficient = density_.stage(j);
       for (int x = ages[j].first; x <= ages[j].last; ++x)
-        matrix(x, j) = (1 - density_(x, j) * level) * matrix(x, j);
+        n[x] = (1 - coefficient[x] * level) * n[x];
+    }
   }
-
-  // Where the windows hold most of the matrix, walks go row by row over
-  // all of it: zeros add nothing, and the rows are stored one after the
-  // other.
-  bool dense(const AgeWindows& ages) const { return mostlyOccupied(lastAge_, stages_, ages); }
 
   void consume(int t) {
     if (!withCxj_)
@@ -315,24 +307,17 @@ private:
   // keeps that order for every age.
   void takeNextDay(int t, bool takeOver) {
     if (takeOver) {
-      if (dense(nAges_) || dense(nextAges_))
-        for (int x = 0; x <= lastAge_; ++x)
-          for (int j = 1; j <= stages_; ++j)
-            n_(x, j) = next_(x, j);
-      else
-        for (int j = 1; j <= stages_; ++j) {
-          const AgeWindow cells = nAges_[j].joinedWith(nextAges_[j]);
-          for (int x = cells.first; x <= cells.last; ++x)
-            n_(x, j) = next_(x, j);
-        }
+      for (int j = 1; j <= stages_; ++j) {
+        const AgeWindow cells = nAges_[j].joinedWith(nextAges_[j]);
+        std::copy(next_.stage(j) + cells.first, next_.stage(j) + cells.last + 1, n_.stage(j) + cells.first);
+      }
       nAges_ = nextAges_;
     }
     m_.TotalSize(t) = finite(sumAges(next_, nextAges_, &m_.AgeSize(0, t), m_.TotalSize(t)));
     if (!physogastry_)
       return;
-    for (int x = 0; x <= lastAge_; ++x)
-      for (int j = 1; j <= stages_; ++j)
-        physoN_(x, j) = nextPhysoN_(x, j);
+    for (int j = 1; j <= stages_; ++j)
+      std::copy(nextPhysoN_.stage(j), nextPhysoN_.stage(j) + lastAge_ + 1, physoN_.stage(j));
     m_.PhysoTotalSize(t) = sumAges(nextPhysoN_, physoAges_, &m_.PhysoAgeSize(0, t), m_.PhysoTotalSize(t));
   }
 
@@ -340,20 +325,11 @@ private:
   // 0..lastAge side by side), and those sizes, age by age, to `total`.
   // An age that no stage holds keeps its size; a size of 0 adds nothing.
   double sumAges(const Cells& matrix, const AgeWindows& ages, double* sizes, double total) const {
-    if (dense(ages)) {
-      for (int x = 0; x <= lastAge_; ++x) {
-        const double* row = matrix.row(x);
-        double size = sizes[x];
-        for (int j = 1; j <= stages_; ++j)
-          size += row[j];
-        sizes[x] = size;
-        total += size;
-      }
-      return total;
-    }
-    for (int j = 1; j <= stages_; ++j)
+    for (int j = 1; j <= stages_; ++j) {
+      const double* n = matrix.stage(j);
       for (int x = ages[j].first; x <= ages[j].last; ++x)
-        sizes[x] += matrix(x, j);
+        sizes[x] += n[x];
+    }
     for (int x = 0; x <= lastAge_; ++x)
       if (sizes[x] != 0)
         total += sizes[x];
@@ -381,42 +357,30 @@ private:
       sizes[j] = m_.StageSize(j, t);
       deaths[j] = m_.StageDeath(t, j);
     }
-    if (dense(nextAges_)) {
-      // Each stage's sums side by side, each still age by age.
-      for (int x = 0; x <= lastAge_; ++x) {
-        const double* n = next_.row(x);
-        const double* rate = death_.row(x);
-        for (int j = 1; j <= stages_; ++j) {
-          sizes[j] += n[j];
-          if (rules_.deaths)
-            deaths[j] += n[j] * rate[j];
+    for (int j = 1; j <= stages_; ++j) {
+      const double* n = next_.stage(j);
+      const double* rate = death_.stage(j);
+      double size = sizes[j], death = deaths[j];
+      if (rules_.deaths)
+        for (int x = nextAges_[j].first; x <= nextAges_[j].last; ++x) {
+          size += n[x];
+          death += n[x] * rate[x];
         }
-      }
-    } else {
-      for (int j = 1; j <= stages_; ++j) {
-        double size = sizes[j], death = deaths[j];
-        if (rules_.deaths)
-          for (int x = nextAges_[j].first; x <= nextAges_[j].last; ++x) {
-            size += next_(x, j);
-            death += next_(x, j) * death_(x, j);
-          }
-        else
-          for (int x = nextAges_[j].first; x <= nextAges_[j].last; ++x)
-            size += next_(x, j);
-        sizes[j] = size;
-        deaths[j] = death;
-      }
+      else
+        for (int x = nextAges_[j].first; x <= nextAges_[j].last; ++x)
+          size += n[x];
+      sizes[j] = size;
+      deaths[j] = death;
     }
     PerStage physoSizes{};
-    if (physogastry_) {
-      for (int j = 1; j <= stages_; ++j)
-        physoSizes[j] = m_.PhysoStageSize(j, t);
-      for (int x = 0; x <= lastAge_; ++x) {
-        const double* n = physoN_.row(x);
-        for (int j = 1; j <= stages_; ++j)
-          physoSizes[j] += n[j];
+    if (physogastry_)
+      for (int j = 1; j <= stages_; ++j) {
+        double size = m_.PhysoStageSize(j, t);
+        const double* n = physoN_.stage(j);
+        for (int x = 0; x <= lastAge_; ++x)
+          size += n[x];
+        physoSizes[j] = size;
       }
-    }
 
     for (int j = 1; j <= stages_; ++j) {
       const double size = sizes[j];
@@ -461,16 +425,13 @@ private:
 
   // The sizes of the stages alone, stage by stage, age by age.
   void recordStageSizes(int t) {
-    PerStage sizes{};
-    for (int j = 1; j <= stages_; ++j)
-      sizes[j] = m_.StageSize(j, t);
-    for (int x = 0; x <= lastAge_; ++x) {
-      const double* n = next_.row(x);
-      for (int j = 1; j <= stages_; ++j)
-        sizes[j] += n[j];
+    for (int j = 1; j <= stages_; ++j) {
+      double size = m_.StageSize(j, t);
+      const double* n = next_.stage(j);
+      for (int x = 0; x <= lastAge_; ++x)
+        size += n[x];
+      m_.StageSize(j, t) = size;
     }
-    for (int j = 1; j <= stages_; ++j)
-      m_.StageSize(j, t) = sizes[j];
   }
 
   // Fractions of a day without individuals keep what they held.

@@ -19,7 +19,8 @@ EigenvalueEstimate dominantEigenvalue(Model& m) {
   const int stages = m.NrStage;
   if (lastAge < 0 || lastAge > kLastAgeSlot || stages < 1 || stages > kLastStageSlot)
     raise(ErrorCode::SubscriptOutOfRange);
-  Table2<double> vector{kLastAgeSlot, kLastStageSlot}, projected{kLastAgeSlot, kLastStageSlot};
+  Table2<double> vector{Layout::ColumnByColumn, kLastAgeSlot, kLastStageSlot},
+      projected{Layout::ColumnByColumn, kLastAgeSlot, kLastStageSlot};
   const Cells v(vector), w(projected), growth(m.GrowthRate), develop(m.DevelopRate), fecundity(m.Fecundity);
   double size = 0;
   for (int x = 0; x <= lastAge; ++x)

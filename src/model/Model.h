@@ -74,13 +74,13 @@ struct Model {
   Table1<std::string> StageName{kLastStageSlot};
   Table1<double> WeighCoef{kLastStageSlot};
   Table1<double> DensityCoef{kLastStageSlot};
-  Table2<double> WeighCoefAgeStage{kLastAgeSlot, kLastStageSlot};
-  Table2<double> DensityCoefAgeStage{kLastAgeSlot, kLastStageSlot};
-  Table2<double> Fecundity{kLastAgeSlot, kLastStageSlot};
-  Table2<double> GrowthRate{kLastAgeSlot, kLastStageSlot};
-  Table2<double> DevelopRate{kLastAgeSlot, kLastStageSlot};
-  Table2<double> DeathRate{kLastAgeSlot, kLastStageSlot};
-  Table2<double> Consumption{kLastAgeSlot, kLastStageSlot};
+  Table2<double> WeighCoefAgeStage{Layout::ColumnByColumn, kLastAgeSlot, kLastStageSlot};
+  Table2<double> DensityCoefAgeStage{Layout::ColumnByColumn, kLastAgeSlot, kLastStageSlot};
+  Table2<double> Fecundity{Layout::ColumnByColumn, kLastAgeSlot, kLastStageSlot};
+  Table2<double> GrowthRate{Layout::ColumnByColumn, kLastAgeSlot, kLastStageSlot};
+  Table2<double> DevelopRate{Layout::ColumnByColumn, kLastAgeSlot, kLastStageSlot};
+  Table2<double> DeathRate{Layout::ColumnByColumn, kLastAgeSlot, kLastStageSlot};
+  Table2<double> Consumption{Layout::ColumnByColumn, kLastAgeSlot, kLastStageSlot};
   Table2<double> InitialN{kLastAgeSlot, kLastStageSlot};
   Table1<std::string> WeakFactorName{kLastFactorSlot};
   Table2<double> WeakCoef{kLastFactorSlot, kLastStageSlot};
@@ -113,10 +113,10 @@ struct Model {
   double TotalSizeBase = 0;
 
   // Tables written by the run.
-  Table2<double> PopN{kLastAgeSlot, kLastStageSlot};
-  Table2<double> NextN{kLastAgeSlot, kLastStageSlot};
-  Table2<double> PhysoN{kLastAgeSlot, kLastStageSlot};
-  Table2<double> NextPhysoN{kLastAgeSlot, kLastStageSlot};
+  Table2<double> PopN{Layout::ColumnByColumn, kLastAgeSlot, kLastStageSlot};
+  Table2<double> NextN{Layout::ColumnByColumn, kLastAgeSlot, kLastStageSlot};
+  Table2<double> PhysoN{Layout::ColumnByColumn, kLastAgeSlot, kLastStageSlot};
+  Table2<double> NextPhysoN{Layout::ColumnByColumn, kLastAgeSlot, kLastStageSlot};
   // A day's ages are summed together: each day's column lies in one piece.
   Table2<double> AgeSize{Layout::ColumnByColumn, kLastAgeSlot, kLastDaySlot};
   Table2<double> PhysoAgeSize{Layout::ColumnByColumn, kLastAgeSlot, kLastDaySlot};
