@@ -69,7 +69,7 @@ void writeStageDeaths(Session& session, const StageDeathFile& file) {
   out.print(stagesHeading(m) + (physo ? "Burst-ready" : "Total adults"));
   for (int t = file.firstDay; t <= m.SimTime; ++t) {
     const Table2<double>& adultSeries = m.*file.adultSeries;
-    const std::string last =
+    const NumberText last =
         physo ? raw(m.BurstReadySize(t))
               : bare(file.adultForm(adultSeries(t, m.NrStage) + adultSeries(t, m.NrStage - 1)));
     out.print(timeColumn(m, t), ",", joinedStages(m, [&](int j) { return bare((m.*file.cells)(t, j)); }), ",",

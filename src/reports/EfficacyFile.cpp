@@ -9,7 +9,7 @@ namespace vorlex {
 namespace {
 
 std::string column(const std::optional<double>& value) {
-  return value ? figures::withSign(*value) : std::string();
+  return value ? figures::withSign(*value).str() : std::string();
 }
 
 } // namespace

@@ -16,11 +16,13 @@ inline constexpr int kFigureFile = kReportFile;
 
 /// The stripped form. A negative number loses its minus sign; kept on
 /// purpose in every column written this way.
-inline std::string bare(double v) { return stripped(v); }
+inline NumberText bare(double v) { return {v, NumberText::Form::Stripped}; }
 /// The stripped form, or the blank-led form with its minus below 0.
-inline std::string withSign(double v) { return v < 0 ? blankLed(v) : stripped(v); }
+inline NumberText withSign(double v) {
+  return {v, v < 0 ? NumberText::Form::BlankLed : NumberText::Form::Stripped};
+}
 /// The print form: the blank for the sign ahead and one blank behind.
-inline std::string raw(double v) { return printForm(v); }
+inline NumberText raw(double v) { return {v, NumberText::Form::Print}; }
 /// log10(v + 1), taken as ln(v + 1) / ln(10).
 inline double lg(double v) { return log10Plus1(v); }
 
@@ -37,7 +39,7 @@ inline double immatureAndBurstReady(const Model& m, int t) {
 }
 
 /// Time of a row: step times TimeUnit in the stripped form.
-inline std::string timeColumn(const Model& m, int step) { return bare(step * m.TimeUnit); }
+inline NumberText timeColumn(const Model& m, int step) { return bare(step * m.TimeUnit); }
 
 /// "Time," and each stage name followed by a comma.
 inline std::string stagesHeading(const Model& m) {

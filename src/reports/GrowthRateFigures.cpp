@@ -47,7 +47,7 @@ bool halfTimeUnit(const Model& m) { return m.TimeUnit == 0.5; }
 std::string lifeTableColumns(const Model& m, const GrowthRateFile& file) {
   if (file.scale == Scale::Log)
     return bare(m.FiniteRate) + "," + bare(naturalLog(m.FiniteRate) / std::log(10.0));
-  std::string columns = bare(m.IntrinsicRate);
+  std::string columns = bare(m.IntrinsicRate).str();
   if (halfTimeUnit(m))
     columns.append(",").append(bare(m.IntrinsicRate / 2));
   return columns;
@@ -69,18 +69,19 @@ void writeGrowthRates(Session& session, const GrowthRateFile& file) {
   out.write(title);
   out.print(stagesHeading(m) + (physo ? "Burst-ready," : "") + headingEnding(m, file));
   const std::string lifeTable = lifeTableColumns(m, file);
+  std::string row;
   for (int t = 0; t <= m.SimTime; ++t) {
-    std::string row = timeColumn(m, t) + ",";
+    row.assign(timeColumn(m, t)) += ',';
     for (int j = 1; j <= m.NrStage; ++j) {
       double& rate = (m.*file.stageRates)(j, t);
       if (std::fabs(rate) < kSmallestRate)
         rate = 0; // for good: the charts drawn later show the zero
-      row += withSign(rate) + ",";
+      row.append(withSign(rate)) += ',';
     }
     if (physo)
-      row += withSign((m.*file.burstReadyRates)(t)) + ",";
+      row.append(withSign((m.*file.burstReadyRates)(t))) += ',';
     // Kept on purpose: unlike the stage rates, the total rate loses its sign.
-    row += bare((m.*file.totalRates)(t)) + "," + lifeTable;
+    row.append(bare((m.*file.totalRates)(t))).append(",").append(lifeTable);
     out.print(row);
   }
   closeFigureFile(session);

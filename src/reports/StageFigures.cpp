@@ -18,7 +18,7 @@ constexpr const char* kLogStageTitle = "Stage structure curves log(Nt+1) (base 1
 bool released(const Model& m) { return m.ReleaseDate > 0; }
 
 /// Time of day t of the simulation: shifted by ReleaseDate when above 0.
-std::string simulationTime(const Model& m, int t) {
+NumberText simulationTime(const Model& m, int t) {
   return timeColumn(m, released(m) ? checkedInt16(t + m.ReleaseDate) : t);
 }
 
@@ -28,7 +28,7 @@ std::string stageFileHeading(const Session& session, const std::string& ending) 
 
 /// The rows ahead of the release: plain time, " 0 " for each stage and then
 /// `last`.
-void writeEmptyStageRows(OutputFile& out, const Model& m, const std::string& last) {
+void writeEmptyStageRows(OutputFile& out, const Model& m, std::string_view last) {
   for (int t = 0; t < m.ReleaseDate; ++t)
     out.print(timeColumn(m, t), ",", joinedStages(m, [](int) { return raw(0); }), ",", last);
 }
@@ -42,7 +42,7 @@ void writeStageSizeFile(Session& session) {
   out.print(stageFileHeading(session, "Total adults"));
   writeEmptyStageRows(out, m, raw(0));
   for (int t = 0; t <= m.SimTime; ++t) {
-    const std::string last = physogastry(session) ? raw(m.BurstReadySize(t)) : bare(adults(m, t));
+    const NumberText last = physogastry(session) ? raw(m.BurstReadySize(t)) : bare(adults(m, t));
     out.print(simulationTime(m, t), ",", joinedStages(m, [&](int j) { return bare(m.StageSize(j, t)); }), ",",
               last);
   }
@@ -60,9 +60,9 @@ void writeStageSizePlusOneFile(Session& session) {
   for (int t = 0; t <= m.SimTime; ++t) {
     std::string last;
     if (physogastry(session))
-      last = raw(m.BurstReadySize(t) + (released(m) ? 1 : 0));
+      last = raw(m.BurstReadySize(t) + (released(m) ? 1 : 0)).view();
     else if (released(m))
-      last = bare(adults(m, t) + 1);
+      last = bare(adults(m, t) + 1).view();
     else
       last = bare(adults(m, t) + 1) + "," + bare(m.TotalSize(t) + 1);
     out.print(simulationTime(m, t), ",", joinedStages(m, [&](int j) { return bare(m.StageSize(j, t) + 1); }),

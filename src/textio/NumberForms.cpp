@@ -225,6 +225,14 @@ std::size_t writeBlankLed(double value, char* out) {
   return size + 1;
 }
 
+NumberText::NumberText(double value, Form form) {
+  std::size_t size = writeBlankLed(value, text_);
+  if (form == Form::Print)
+    text_[size++] = ' ';
+  first_ = form == Form::Stripped ? 1 : 0;
+  size_ = static_cast<unsigned char>(size - first_);
+}
+
 std::string digits(double value) {
   char text[kDigitsRoom];
   return std::string(text, writeDigits(value, text));

@@ -35,6 +35,27 @@ std::size_t writeDigits(double value, char* out);
 /// The blank-led form into `out`; the characters written.
 std::size_t writeBlankLed(double value, char* out);
 
+/// A number in the stripped, blank-led or print form, held in place rather
+/// than in a string of its own: rows of numbers are made of many of them.
+/// It reads as a string_view; joined to a text with + it gives a string.
+class NumberText {
+public:
+  enum class Form { Stripped, BlankLed, Print };
+  NumberText(double value, Form form);
+  std::string_view view() const { return {text_ + first_, size_}; }
+  operator std::string_view() const { return view(); }
+  std::string str() const { return std::string(view()); }
+  friend std::string operator+(const NumberText& number, std::string_view text) {
+    return std::string(number.view()).append(text);
+  }
+  friend std::string operator+(std::string text, const NumberText& number) { return text.append(number.view()); }
+
+private:
+  char text_[kNumberTextRoom + 1];
+  unsigned char first_ = 0;
+  unsigned char size_ = 0;
+};
+
 /// Rounds to the nearest integer, ties to the even one.
 double roundHalfEven(double value);
 /// Rounds to a 16-bit integer, ties to even; Overflow outside -32768..32767.
