@@ -4,6 +4,7 @@
 
 #include <algorithm>
 #include <cerrno>
+#include <cstring>
 #include <utility>
 
 #include <sys/stat.h>
@@ -120,11 +121,10 @@ void OutputFile::putText(std::string_view text) {
   std::copy(text.begin(), text.end(), room(text.size()));
   size_ += text.size();
   // A prompt-like text may carry its own line ends; the column follows them.
-  const auto lastBreak = text.find_last_of('\n');
-  if (lastBreak == std::string_view::npos)
+  if (!std::memchr(text.data(), '\n', text.size()))
     column_ += static_cast<int>(text.size());
   else
-    column_ = 1 + static_cast<int>(text.size() - lastBreak - 1);
+    column_ = static_cast<int>(text.size() - text.rfind('\n'));
 }
 
 void OutputFile::put(const Value& value) {

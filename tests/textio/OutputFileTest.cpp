@@ -52,7 +52,9 @@ TEST(OutputFilePrint, TabGoesToColumnOrToThatColumnOfNextLine) {
   file.print("ab", Tab{3}, "x");
   file.print("abcdef", Tab{3}, "x");
   file.print(Tab{0}, "y");
-  EXPECT_EQ(file.text(), "abc      x\r\nabx\r\nabcdef\r\n  x\r\ny\r\n");
+  // A text with its own line end: the column counts from the break.
+  file.print("first\r\nab", Tab{4}, "z");
+  EXPECT_EQ(file.text(), "abc      x\r\nabx\r\nabcdef\r\n  x\r\ny\r\nfirst\r\nab z\r\n");
 }
 
 TEST(OutputFilePrint, SpcWritesBlanks) {
