@@ -6,6 +6,7 @@
 #include <bit>
 #include <charconv>
 #include <cstdint>
+#include <cstring>
 #include <cmath>
 #include <cstdio>
 #include <cstdlib>
@@ -73,6 +74,36 @@ bool scaledAndRounded(std::uint64_t m, int q, int k, std::uint64_t& rounded) {
   return true;
 }
 
+// 10^k, exact as doubles for k = 0..22.
+constexpr std::array<double, 23> kExactPowersOfTen = {1e0,  1e1,  1e2,  1e3,  1e4,  1e5,  1e6,  1e7,
+                                                       1e8,  1e9,  1e10, 1e11, 1e12, 1e13, 1e14, 1e15,
+                                                       1e16, 1e17, 1e18, 1e19, 1e20, 1e21, 1e22};
+
+// The same rounding in doubles, for the powers of ten that are exact: the
+// rounded product and its exact error (Dekker's product, without relying
+// on a fused multiply-add), the error deciding the halves. The product is
+// below 2^52 whenever it is of use, where adding 2^52 rounds it to an
+// integer, halves to even.
+bool scaledInDoubles(double value, int k, std::uint64_t& rounded) {
+  if (k < 0 || k >= static_cast<int>(kExactPowersOfTen.size()))
+    return false;
+  const double power = kExactPowersOfTen[static_cast<std::size_t>(k)];
+  const double product = value * power;
+  constexpr double kSplitter = 134217729.0; // 2^27 + 1
+  const double a = kSplitter * value, aHigh = a - (a - value), aLow = value - aHigh;
+  const double b = kSplitter * power, bHigh = b - (b - power), bLow = power - bHigh;
+  const double error = ((aHigh * bHigh - product) + aHigh * bLow + aLow * bHigh) + aLow * bLow;
+  constexpr double kTwoTo52 = 4503599627370496.0;
+  const double whole = (product + kTwoTo52) - kTwoTo52;
+  const double rest = product - whole;
+  rounded = static_cast<std::uint64_t>(whole);
+  if (rest == 0.5 && error > 0)
+    ++rounded;
+  else if (rest == -0.5 && error < 0)
+    --rounded;
+  return true;
+}
+
 // The 15 significant digits of a positive finite value, correctly rounded
 // as printf's "%.14e" gives them, and its decimal exponent, worked out in
 // integers; false for magnitudes beyond about 1e-18..1e15, left to the
@@ -93,7 +124,7 @@ bool fifteenDigits(double value, std::uint64_t& digits, int& exponent) {
     ++guess;
   for (int tries = 0; tries < 3; ++tries) {
     std::uint64_t rounded = 0;
-    if (!scaledAndRounded(m, q, 14 - guess, rounded))
+    if (!scaledInDoubles(value, 14 - guess, rounded) && !scaledAndRounded(m, q, 14 - guess, rounded))
       return false;
     if (rounded < kFifteenDigits) {
       --guess;
@@ -120,30 +151,20 @@ constexpr char kDigitPairs[] = "000102030405060708091011121314151617181920212223
                                "40414243444546474849505152535455565758596061626364656667686970717273747576777879"
                                "8081828384858687888990919293949596979899";
 
-// 10^k as integers for k = 0..15.
-constexpr auto kIntegerPowersOfTen = [] {
-  std::array<std::uint64_t, 16> powers{};
-  powers[0] = 1;
-  for (std::size_t k = 1; k < powers.size(); ++k)
-    powers[k] = powers[k - 1] * 10;
-  return powers;
-}();
+void putPair(unsigned pair, char* at) { std::memcpy(at, kDigitPairs + 2 * pair, 2); }
+void putFour(unsigned four, char* at) {
+  putPair(four / 100, at);
+  putPair(four % 100, at + 2);
+}
 
-// The `count` digits of digits < 10^count into `out`, two at a time from
-// the last; returns the end.
-char* putDigits(std::uint64_t digits, int count, char* out) {
-  char* const end = out + count;
-  char* at = end;
-  for (; count >= 2; count -= 2) {
-    at -= 2;
-    const std::size_t pair = 2 * (digits % 100);
-    at[0] = kDigitPairs[pair];
-    at[1] = kDigitPairs[pair + 1];
-    digits /= 100;
-  }
-  if (count == 1)
-    *--at = static_cast<char>('0' + digits);
-  return end;
+// The 16 digits of digits < 10^16 into `out`, in four independent parts.
+void putSixteen(std::uint64_t digits, char* out) {
+  const auto high = static_cast<unsigned>(digits / 100000000);
+  const auto low = static_cast<unsigned>(digits % 100000000);
+  putFour(high / 10000, out);
+  putFour(high % 10000, out + 4);
+  putFour(low / 10000, out + 8);
+  putFour(low % 10000, out + 12);
 }
 
 } // namespace
@@ -171,21 +192,25 @@ std::size_t writeDigits(double value, char* out) {
         digits = 10 * digits + static_cast<std::uint64_t>(*p - '0');
     std::from_chars(p + (p[1] == '+' ? 2 : 1), written.ptr, exponent);
   }
+  // The 15 digits, and how many remain without the zeros at the end. The
+  // copies below take whole runs of them; the room of a number text takes
+  // what they write beyond.
+  char sixteen[16];
+  putSixteen(digits, sixteen);
+  const char* fifteen = sixteen + 1;
   int count = 15;
-  while (count > 1 && digits % 10 == 0) {
-    digits /= 10;
+  while (count > 1 && fifteen[count - 1] == '0')
     --count;
-  }
 
   char* o = out;
   if (value < 0)
     *o++ = '-';
   if (exponent < kSmallestFixedExponent || exponent > kLargestFixedExponent) {
-    const std::uint64_t rest = kIntegerPowersOfTen[static_cast<std::size_t>(count - 1)];
-    *o++ = static_cast<char>('0' + digits / rest);
+    *o++ = fifteen[0];
     if (count > 1) {
       *o++ = '.';
-      o = putDigits(digits % rest, count - 1, o);
+      std::memcpy(o, fifteen + 1, 14);
+      o += count - 1;
     }
     *o++ = 'E';
     *o++ = exponent < 0 ? '-' : '+';
@@ -198,20 +223,16 @@ std::size_t writeDigits(double value, char* out) {
   if (exponent < 0) {
     *o++ = '.';
     o = std::fill_n(o, -exponent - 1, '0');
-    o = putDigits(digits, count, o);
-    return static_cast<std::size_t>(o - out);
+    std::memcpy(o, fifteen, 15);
+    return static_cast<std::size_t>(o + count - out);
   }
   const int integerDigits = exponent + 1;
-  if (count <= integerDigits) {
-    o = putDigits(digits, count, o);
-    o = std::fill_n(o, integerDigits - count, '0');
-    return static_cast<std::size_t>(o - out);
-  }
-  const std::uint64_t fraction = kIntegerPowersOfTen[static_cast<std::size_t>(count - integerDigits)];
-  o = putDigits(digits / fraction, integerDigits, o);
-  *o++ = '.';
-  o = putDigits(digits % fraction, count - integerDigits, o);
-  return static_cast<std::size_t>(o - out);
+  std::memcpy(o, fifteen, 15);
+  if (count <= integerDigits)
+    return static_cast<std::size_t>(o + integerDigits - out); // the zeros of the integer are there
+  std::memcpy(o + integerDigits + 1, fifteen + integerDigits, static_cast<std::size_t>(15 - integerDigits));
+  o[integerDigits] = '.';
+  return static_cast<std::size_t>(o + count + 1 - out);
 }
 
 std::size_t writeBlankLed(double value, char* out) {
