@@ -28,7 +28,7 @@ void OutputFile::grow(std::size_t needed) {
 OutputFile::OutputFile(OutputFile&& other) noexcept
     : buffer_(std::move(other.buffer_)), size_(std::exchange(other.size_, 0)),
       capacity_(std::exchange(other.capacity_, 0)), fd_(std::exchange(other.fd_, -1)), name_(std::move(other.name_)),
-      replacing_(other.replacing_), handedOver_(other.handedOver_), column_(other.column_) {}
+      replacing_(other.replacing_), handedOver_(other.handedOver_), lineStart_(other.lineStart_) {}
 
 OutputFile::~OutputFile() {
   if (fd_ < 0)
@@ -40,7 +40,19 @@ OutputFile::~OutputFile() {
   }
 }
 
+int OutputFile::column() const {
+  const char* text = buffer_.get();
+  for (auto at = static_cast<long long>(size_); at > std::max(lineStart_, 0LL); --at)
+    if (text[at - 1] == '\n') {
+      lineStart_ = at;
+      break;
+    }
+  return static_cast<int>(1 + static_cast<long long>(size_) - lineStart_);
+}
+
 bool OutputFile::handOver() {
+  column(); // the start of the line, before the text goes
+
   std::size_t done = 0;
   while (done < size_) {
     const ssize_t written = ::write(fd_, buffer_.get() + done, size_ - done);
@@ -51,12 +63,14 @@ bool OutputFile::handOver() {
         errno = ENOSPC;
       std::copy(buffer_.get() + done, buffer_.get() + size_, buffer_.get());
       size_ -= done;
+      lineStart_ -= static_cast<long long>(done);
       handedOver_ += static_cast<long long>(done);
       return false;
     }
     done += static_cast<std::size_t>(written);
   }
   handedOver_ += static_cast<long long>(done);
+  lineStart_ -= static_cast<long long>(size_);
   size_ = 0;
   return true;
 }
@@ -80,7 +94,7 @@ void OutputFile::endLine() {
   at[0] = '\r';
   at[1] = '\n';
   size_ += 2;
-  column_ = 1;
+  lineStart_ = static_cast<long long>(size_);
   if (fd_ >= 0 && size_ >= kBlockSize && !handOver())
     raiseWriteFailure();
 }
@@ -120,11 +134,6 @@ void OutputFile::close() {
 void OutputFile::putText(std::string_view text) {
   std::copy(text.begin(), text.end(), room(text.size()));
   size_ += text.size();
-  // A prompt-like text may carry its own line ends; the column follows them.
-  if (!std::memchr(text.data(), '\n', text.size()))
-    column_ += static_cast<int>(text.size());
-  else
-    column_ = static_cast<int>(text.size() - text.rfind('\n'));
 }
 
 void OutputFile::put(const Value& value) {
@@ -136,9 +145,9 @@ void OutputFile::put(const Value& value) {
 
 void OutputFile::put(Tab tab) {
   const int target = tab.column < 1 ? 1 : tab.column;
-  if (column_ > target)
+  if (column() > target)
     endLine();
-  putText(std::string(static_cast<std::size_t>(target - column_), ' '));
+  putText(std::string(static_cast<std::size_t>(target - column()), ' '));
 }
 
 void OutputFile::put(Spc spc) {
@@ -147,8 +156,9 @@ void OutputFile::put(Spc spc) {
 }
 
 void OutputFile::put(Zone) {
-  const int next = ((column_ - 1) / kZoneWidth + 1) * kZoneWidth + 1;
-  putText(std::string(static_cast<std::size_t>(next - column_), ' '));
+  const int at = column();
+  const int next = ((at - 1) / kZoneWidth + 1) * kZoneWidth + 1;
+  putText(std::string(static_cast<std::size_t>(next - at), ' '));
 }
 
 void OutputFile::writeItem(std::string_view text, bool first) {
@@ -171,7 +181,6 @@ void OutputFile::putNumber(double number) {
   const std::size_t size = writeBlankLed(number, at);
   at[size] = ' ';
   size_ += size + 1;
-  column_ += static_cast<int>(size + 1);
 }
 
 void OutputFile::writeNumber(double number, bool first) {
@@ -181,7 +190,6 @@ void OutputFile::writeNumber(double number, bool first) {
     *at++ = ',';
   at += writeDigits(number, at);
   size_ += static_cast<std::size_t>(at - start);
-  column_ += static_cast<int>(at - start);
 }
 
 } // namespace vorlex

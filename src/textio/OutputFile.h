@@ -71,7 +71,7 @@ public:
 
   void endLine();
   /// The column the next character goes to; the first is 1.
-  int column() const { return column_; }
+  int column() const;
   /// The text written so far, for a file made by inMemory().
   std::string text() const;
   /// Hands what is buffered to the system; Disk full (or Device I/O error)
@@ -129,7 +129,11 @@ private:
   std::string name_;
   bool replacing_ = false;
   long long handedOver_ = 0; // bytes taken by the system
-  int column_ = 1;
+  // Where the line being written starts, counted from the start of the
+  // buffer (below 0 once part of it has been handed over). A text may
+  // carry line ends of its own: they are looked for only when the column
+  // is asked, from the end back to this start, which then moves on.
+  mutable long long lineStart_ = 0;
 };
 
 } // namespace vorlex
