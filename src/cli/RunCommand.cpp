@@ -10,6 +10,7 @@
 
 #include <algorithm>
 #include <iterator>
+#include <memory>
 #include <optional>
 
 namespace vorlex::cli {
@@ -104,6 +105,19 @@ const Strategy* findStrategy(const std::string& name) {
   return found == std::end(kStrategies) ? nullptr : found;
 }
 
+// A build that checks for leaks at the exit gives every session back.
+#if defined(__SANITIZE_ADDRESS__)
+constexpr bool kLeaksChecked = true;
+#elif defined(__has_feature)
+#if __has_feature(address_sanitizer)
+constexpr bool kLeaksChecked = true;
+#else
+constexpr bool kLeaksChecked = false;
+#endif
+#else
+constexpr bool kLeaksChecked = false;
+#endif
+
 } // namespace
 
 int strategyOption(const std::string& name) {
@@ -112,7 +126,7 @@ int strategyOption(const std::string& name) {
 }
 
 int runCommand(const std::vector<std::string>& args, std::ostream& out, std::ostream& err,
-               const AfterRun& afterRun) {
+               const AfterRun& afterRun, AtTheEnd atTheEnd) {
   RunOptions options;
   AnswerPrompter prompter(out);
   try {
@@ -174,7 +188,8 @@ int runCommand(const std::vector<std::string>& args, std::ostream& out, std::ost
     return 2;
   }
 
-  Session session(prompter);
+  auto owned = std::make_unique<Session>(prompter);
+  Session& session = *owned;
   if (!options.date.empty())
     session.shortDate = options.date;
   prompter.answerFirst(MainForm::kDataFileDialogTitle, options.dataFile);
@@ -224,7 +239,10 @@ int runCommand(const std::vector<std::string>& args, std::ostream& out, std::ost
     out << "  " << path << '\n';
   for (const std::string& title : prompter.unusedAnswers())
     err << "vorlex: warning: the answer for '" << title << "' was not asked for\n";
-  return afterRun ? afterRun(session) : 0;
+  const int status = afterRun ? afterRun(session) : 0;
+  if (atTheEnd == AtTheEnd::ProcessExits && !kLeaksChecked)
+    static_cast<void>(owned.release());
+  return status;
 }
 
 } // namespace vorlex::cli

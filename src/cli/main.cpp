@@ -89,7 +89,8 @@ int main(int argc, char** argv) {
   }
   try {
     if (args[0] == "run")
-      return vorlex::cli::runCommand({args.begin() + 1, args.end()}, std::cout, std::cerr);
+      return vorlex::cli::runCommand({args.begin() + 1, args.end()}, std::cout, std::cerr, {},
+                                     vorlex::cli::AtTheEnd::ProcessExits);
     if (args[0] == "sampling")
       return vorlex::cli::samplingCommand({args.begin() + 1, args.end()}, std::cout, std::cerr);
     if (args[0] == "predict")
