@@ -28,7 +28,8 @@ void OutputFile::grow(std::size_t needed) {
 OutputFile::OutputFile(OutputFile&& other) noexcept
     : buffer_(std::move(other.buffer_)), size_(std::exchange(other.size_, 0)),
       capacity_(std::exchange(other.capacity_, 0)), fd_(std::exchange(other.fd_, -1)), name_(std::move(other.name_)),
-      replacing_(other.replacing_), handedOver_(other.handedOver_), lineStart_(other.lineStart_) {}
+      replacing_(other.replacing_), handedOver_(other.handedOver_), lineStart_(other.lineStart_),
+      looked_(other.looked_) {}
 
 OutputFile::~OutputFile() {
   if (fd_ < 0)
@@ -42,11 +43,12 @@ OutputFile::~OutputFile() {
 
 int OutputFile::column() const {
   const char* text = buffer_.get();
-  for (auto at = static_cast<long long>(size_); at > std::max(lineStart_, 0LL); --at)
+  for (auto at = static_cast<long long>(size_); at > looked_; --at)
     if (text[at - 1] == '\n') {
       lineStart_ = at;
       break;
     }
+  looked_ = static_cast<long long>(size_);
   return static_cast<int>(1 + static_cast<long long>(size_) - lineStart_);
 }
 
@@ -64,6 +66,7 @@ bool OutputFile::handOver() {
       std::copy(buffer_.get() + done, buffer_.get() + size_, buffer_.get());
       size_ -= done;
       lineStart_ -= static_cast<long long>(done);
+      looked_ = std::max(looked_ - static_cast<long long>(done), 0LL);
       handedOver_ += static_cast<long long>(done);
       return false;
     }
@@ -71,6 +74,7 @@ bool OutputFile::handOver() {
   }
   handedOver_ += static_cast<long long>(done);
   lineStart_ -= static_cast<long long>(size_);
+  looked_ = 0;
   size_ = 0;
   return true;
 }
@@ -94,7 +98,7 @@ void OutputFile::endLine() {
   at[0] = '\r';
   at[1] = '\n';
   size_ += 2;
-  lineStart_ = static_cast<long long>(size_);
+  lineStart_ = looked_ = static_cast<long long>(size_);
   if (fd_ >= 0 && size_ >= kBlockSize && !handOver())
     raiseWriteFailure();
 }

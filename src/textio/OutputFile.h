@@ -132,8 +132,10 @@ private:
   // Where the line being written starts, counted from the start of the
   // buffer (below 0 once part of it has been handed over). A text may
   // carry line ends of its own: they are looked for only when the column
-  // is asked, from the end back to this start, which then moves on.
+  // is asked, in what was written since it was asked last.
   mutable long long lineStart_ = 0;
+  // The text before this point of the buffer has been looked at for them.
+  mutable long long looked_ = 0;
 };
 
 } // namespace vorlex
