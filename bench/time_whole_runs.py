@@ -15,9 +15,12 @@ script's own).
 
 On a shared machine the minimum says what the program costs, the median
 what a user waits, and the processor time is the least disturbed by the
-others; run it with many repetitions.
+others; run it with many repetitions. With --against OTHER the runs of the
+two programs alternate, so that both meet the same load of the machine:
+the way to compare a change with the program before it.
 
-Usage: python3 bench/time_whole_runs.py [--vorlex PATH] [--runs N] [CASE ...]
+Usage: python3 bench/time_whole_runs.py [--vorlex PATH] [--against PATH]
+                                        [--runs N] [CASE ...]
 """
 
 import argparse
@@ -89,6 +92,8 @@ def main():
     parser.add_argument("--vorlex", default=str(ROOT / "build" / "bin" /
                                                 "vorlex"),
                         help="the command-line program (default: build/bin/vorlex)")
+    parser.add_argument("--against", metavar="PATH",
+                        help="another build of the program, run in turn with it")
     parser.add_argument("--runs", type=int, default=100,
                         help="runs of each case (default: 100)")
     args = parser.parse_args()
@@ -96,27 +101,33 @@ def main():
     if unknown:
         parser.error("no case named %s" % ", ".join(unknown))
 
-    print("%-8s %5s %9s %9s %9s %9s %8s %6s" % (
-        "case", "runs", "wall min", "median", "cpu min", "median",
+    programs = [args.vorlex] + ([args.against] if args.against else [])
+    print("%-8s %-10s %5s %9s %9s %9s %9s %8s %6s" % (
+        "case", "program", "runs", "wall min", "median", "cpu min", "median",
         "peak MB", "files"))
     for case in args.cases or list(CASES):
         name, sim_time = CASES[case]
         with tempfile.TemporaryDirectory(prefix="vorlex-timing-") as folder:
-            command = command_of(args.vorlex, data_file(name, Path(folder)),
-                                 sim_time)
-            run_once(command)  # warms the file cache
-            walls, cpus = [], []
+            path = data_file(name, Path(folder))
+            commands = [command_of(program, path, sim_time) for program in programs]
+            for command in commands:
+                run_once(command)  # warms the file cache
+            walls = [[] for _ in commands]
+            cpus = [[] for _ in commands]
             for _ in range(args.runs):
-                wall, cpu = run_once(command)
-                walls.append(wall)
-                cpus.append(cpu)
-            peaks = [peak_kilobytes(command) for _ in range(3)]
+                for i, command in enumerate(commands):
+                    wall, cpu = run_once(command)
+                    walls[i].append(wall)
+                    cpus[i].append(cpu)
+            peaks = [[peak_kilobytes(command) for _ in range(3)] for command in commands]
             files = len(os.listdir(folder)) - 1
-        peak = "-" if None in peaks else "%.1f" % (max(peaks) / 1024)
-        print("%-8s %5d %9.2f %9.2f %9.2f %9.2f %8s %6d" % (
-            case, args.runs, 1000 * min(walls),
-            1000 * statistics.median(walls), 1000 * min(cpus),
-            1000 * statistics.median(cpus), peak, files))
+        for i, program in enumerate(programs):
+            peak = "-" if None in peaks[i] else "%.1f" % (max(peaks[i]) / 1024)
+            label = "this" if i == 0 else "against"
+            print("%-8s %-10s %5d %9.2f %9.2f %9.2f %9.2f %8s %6d" % (
+                case, label, args.runs, 1000 * min(walls[i]),
+                1000 * statistics.median(walls[i]), 1000 * min(cpus[i]),
+                1000 * statistics.median(cpus[i]), peak, files))
         sys.stdout.flush()
 
 
