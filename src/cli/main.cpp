@@ -12,6 +12,11 @@
 #include "textio/SilentPrompter.h"
 
 #include <iostream>
+#if defined(__linux__)
+#include <cstdint>
+#include <sys/mman.h>
+#include <unistd.h>
+#endif
 #include <string>
 #include <vector>
 
@@ -73,7 +78,32 @@ int runInfo(const std::vector<std::string>& args) {
 
 } // namespace
 
+#if defined(__linux__)
+// The ends of the program's code, from the linker.
+extern "C" char __executable_start;
+extern "C" char etext;
+#endif
+
+namespace {
+
+// The program's code is mapped in one call rather than a page at its first
+// use: on these machines a page taken at its first use costs about 11 µs,
+// and a short run uses some fifty of them. Systems before Linux 5.14 refuse
+// the request, and the pages come as before.
+void mapCodeAtOnce() {
+#if defined(__linux__)
+  constexpr int kPopulateRead = 22; // MADV_POPULATE_READ
+  const auto page = static_cast<std::uintptr_t>(sysconf(_SC_PAGESIZE));
+  const auto from = reinterpret_cast<std::uintptr_t>(&__executable_start) / page * page;
+  const auto to = (reinterpret_cast<std::uintptr_t>(&etext) + page - 1) / page * page;
+  madvise(reinterpret_cast<void*>(from), to - from, kPopulateRead);
+#endif
+}
+
+} // namespace
+
 int main(int argc, char** argv) {
+  mapCodeAtOnce();
   const std::vector<std::string> args(argv + 1, argv + argc);
   if (args.empty()) {
     std::cerr << kUsage;
