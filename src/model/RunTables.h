@@ -2,7 +2,7 @@
 
 namespace vorlex {
 
-class Model;
+struct Model;
 
 /// Tells the tables that every projection of the table in hand fills how
 /// far it will write them, once its last age, its stages and the

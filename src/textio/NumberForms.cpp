@@ -31,7 +31,7 @@ constexpr std::size_t kDigitsRoom = kNumberTextRoom - 1;
 
 namespace {
 
-using u128 = unsigned __int128;
+__extension__ typedef unsigned __int128 u128; // GCC and clang on 64-bit targets
 
 constexpr std::uint64_t kFifteenDigits = 100000000000000u; // the smallest number of 15 digits
 
