@@ -61,7 +61,8 @@ TEST(Table, IndexOutsideTheBoundsStopsWithSubscriptOutOfRange) {
 }
 
 TEST(Table, KeptColumnByColumnEachColumnLiesInOnePiece) {
-  for (const auto [rows, columns] : kSizes) {
+  for (const auto& size : kSizes) {
+    const int rows = size.rows, columns = size.columns;
     Table2<double> table(Layout::ColumnByColumn, rows, columns);
     table(rows, columns) = 4;
     table(1, 0) = 5;
