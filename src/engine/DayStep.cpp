@@ -309,7 +309,8 @@ private:
     if (takeOver) {
       for (int j = 1; j <= stages_; ++j) {
         const AgeWindow cells = nAges_[j].joinedWith(nextAges_[j]);
-        std::copy(next_.stage(j) + cells.first, next_.stage(j) + cells.last + 1, n_.stage(j) + cells.first);
+        if (!cells.empty())
+          std::copy(next_.stage(j) + cells.first, next_.stage(j) + cells.last + 1, n_.stage(j) + cells.first);
       }
       nAges_ = nextAges_;
     }
