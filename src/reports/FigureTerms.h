@@ -60,9 +60,24 @@ template <typename Cell> std::string joined(int first, int last, Cell cell) {
   return row;
 }
 
-/// cell(j) for the stages 1..NrStage, joined with commas.
-template <typename Cell> std::string joinedStages(const Model& m, Cell cell) {
-  return joined(1, m.NrStage, cell);
+/// cell(i) for i = first..last joined with commas, written straight into a
+/// print line rather than made into a text first.
+template <typename Cell> struct JoinedCells {
+  int first;
+  int last;
+  Cell cell;
+  void putInto(OutputFile& out) const {
+    for (int i = first; i <= last; ++i) {
+      if (i > first)
+        out.printOpen(",");
+      out.printOpen(cell(i));
+    }
+  }
+};
+
+/// cell(j) for the stages 1..NrStage, joined with commas, for a print line.
+template <typename Cell> JoinedCells<Cell> joinedStages(const Model& m, Cell cell) {
+  return {1, m.NrStage, cell};
 }
 
 /// Sets the figure suffix and opens the figure file of that name.

@@ -89,6 +89,12 @@ private:
   void put(Tab tab);
   void put(Spc spc);
   void put(Zone);
+  /// An item that writes itself into the line, piece by piece.
+  template <typename Item>
+    requires requires(const Item& item, OutputFile& file) { item.putInto(file); }
+  void put(const Item& item) {
+    item.putInto(*this);
+  }
   template <typename Number>
     requires std::integral<Number> || std::floating_point<Number>
   void put(Number number) {
