@@ -7,6 +7,7 @@
 #include "model/Session.h"
 #include "textio/NumberForms.h"
 
+#include <algorithm>
 #include <array>
 #include <chrono>
 #include <random>
@@ -358,20 +359,14 @@ private:
       sizes[j] = m_.StageSize(j, t);
       deaths[j] = m_.StageDeath(t, j);
     }
-    for (int j = 1; j <= stages_; ++j) {
-      const double* n = next_.stage(j);
-      const double* rate = death_.stage(j);
-      double size = sizes[j], death = deaths[j];
+    // Two stages at a time: their sums don't wait on each other, and each
+    // still takes its own ages in ascending order.
+    for (int j = 1; j <= stages_; j += 2) {
+      const int other = j < stages_ ? j + 1 : 0; // stage 0 has no ages
       if (rules_.deaths)
-        for (int x = nextAges_[j].first; x <= nextAges_[j].last; ++x) {
-          size += n[x];
-          death += n[x] * rate[x];
-        }
+        sumTwoStages<true>(j, other, sizes, deaths);
       else
-        for (int x = nextAges_[j].first; x <= nextAges_[j].last; ++x)
-          size += n[x];
-      sizes[j] = size;
-      deaths[j] = death;
+        sumTwoStages<false>(j, other, sizes, deaths);
     }
     PerStage physoSizes{};
     if (physogastry_)
@@ -421,6 +416,46 @@ private:
           m_.VulnerableSize(t) += physoSize;
         }
       }
+    }
+  }
+
+  // The size (and deaths) of stages a and b of the next day's matrix added
+  // to `sizes` (and `deaths`), each over the ages of its window in
+  // ascending order; b may be 0, which holds nothing.
+  template <bool WithDeaths> void sumTwoStages(int a, int b, PerStage& sizes, PerStage& deaths) const {
+    const AgeWindow wa = nextAges_[a];
+    const AgeWindow wb = b > 0 ? nextAges_[b] : AgeWindow{};
+    const double* na = next_.stage(a) + wa.first;
+    const double* ra = death_.stage(a) + wa.first;
+    const double* nb = next_.stage(b) + (wb.empty() ? 0 : wb.first);
+    const double* rb = death_.stage(b) + (wb.empty() ? 0 : wb.first);
+    const int la = wa.empty() ? 0 : wa.last - wa.first + 1;
+    const int lb = wb.empty() ? 0 : wb.last - wb.first + 1;
+    double sa = sizes[a], da = deaths[a], sb = sizes[b], db = deaths[b];
+    const int both = std::min(la, lb);
+    for (int i = 0; i < both; ++i) {
+      sa += na[i];
+      sb += nb[i];
+      if constexpr (WithDeaths) {
+        da += na[i] * ra[i];
+        db += nb[i] * rb[i];
+      }
+    }
+    for (int i = both; i < la; ++i) {
+      sa += na[i];
+      if constexpr (WithDeaths)
+        da += na[i] * ra[i];
+    }
+    for (int i = both; i < lb; ++i) {
+      sb += nb[i];
+      if constexpr (WithDeaths)
+        db += nb[i] * rb[i];
+    }
+    sizes[a] = sa;
+    deaths[a] = da;
+    if (b > 0) {
+      sizes[b] = sb;
+      deaths[b] = db;
     }
   }
 
