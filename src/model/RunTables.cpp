@@ -20,7 +20,7 @@ void expectTablesOfTheRun(Model& m) {
   m.AgeSize.expectWritesUpTo(days);
 
   for (auto* table : {&m.PopN, &m.NextN, &m.InitialN, &m.GrowthRate, &m.DevelopRate, &m.Fecundity, &m.DeathRate,
-                      &m.WeighCoefAgeStage, &m.DensityCoefAgeStage, &m.Lxj, &m.ReportMatrix})
+                      &m.WeighCoefAgeStage, &m.DensityCoefAgeStage, &m.Lxj, &m.ReportMatrix, &m.Consumption})
     table->expectWritesThrough(ages, stages);
   for (auto* table : {&m.StageSurvivalDay, &m.StageSurvivalDay0, &m.StageSize, &m.StageFraction, &m.StageGrowthLn,
                       &m.StageGrowthLog})

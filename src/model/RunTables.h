@@ -4,7 +4,8 @@ namespace vorlex {
 
 struct Model;
 
-/// Tells the tables that every projection of the table in hand fills how
+/// Tells the tables that every projection of the table in hand fills (or
+/// reads whole, as the consumption of day 0) how
 /// far it will write them, once its last age, its stages and the
 /// simulation time are known: the system then hands over their memory in
 /// one go instead of a page at each first write, and the ages of each day
