@@ -9,6 +9,8 @@
 
 #include <algorithm>
 #include <array>
+#include <bit>
+#include <cstdint>
 #include <chrono>
 #include <random>
 #include <vector>
@@ -26,6 +28,26 @@ struct Fertile {
 
 double lnGrowth(double now, double before) { return naturalLog(now + 1) - naturalLog(before + 1); }
 double logGrowth(double now, double before) { return log10Plus1(now) - log10Plus1(before); }
+
+// ln(v + 1) of a size, kept from one day to the next: a day's size is the
+// earlier size of the next day's growth, and the logarithm of the same
+// number is the same number.
+class LnOfSize {
+public:
+  double of(double size) {
+    if (!known_ || std::bit_cast<std::uint64_t>(size) != std::bit_cast<std::uint64_t>(size_)) {
+      ln_ = naturalLog(size + 1);
+      size_ = size;
+      known_ = true;
+    }
+    return ln_;
+  }
+
+private:
+  double size_ = 0;
+  double ln_ = 0;
+  bool known_ = false;
+};
 
 // One projection of days 1..SimTime+1. The steps of a day come in a fixed
 // order. Every total is a sum of floating-point numbers, and each one takes
@@ -492,8 +514,10 @@ private:
     m_.StageSumGrowthLn(s) = lnGrowth(m_.StageSum(t), m_.StageSum(s));
     m_.StageSumGrowthLog(s) = logGrowth(m_.StageSum(t), m_.StageSum(s));
     for (int j = 1; j <= stages_; ++j) {
-      m_.StageGrowthLn(j, s) = lnGrowth(m_.StageSize(j, t), m_.StageSize(j, s));
-      m_.StageGrowthLog(j, s) = logGrowth(m_.StageSize(j, t), m_.StageSize(j, s));
+      const double before = stageLns_[j].of(m_.StageSize(j, s));
+      const double now = stageLns_[j].of(m_.StageSize(j, t));
+      m_.StageGrowthLn(j, s) = now - before;
+      m_.StageGrowthLog(j, s) = lnToLog10(now) - lnToLog10(before);
     }
     if (!physogastry_)
       return;
@@ -522,6 +546,7 @@ private:
   const bool physogastry_;
   const bool withCxj_;
   bool echoSurvival_ = false;
+  std::array<LnOfSize, kLastStageSlot + 1> stageLns_{}; // of the stage sizes last taken
   PerStage survival_{}; // R(j,t) of the day
   PerStage inflow_{};   // survival of the inflow under extra mortality
   std::vector<Fertile> fertile_;

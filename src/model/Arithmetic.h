@@ -34,7 +34,10 @@ inline double naturalLog(double v) {
 /// e to the power v; Overflow beyond the range of a double.
 inline double exponential(double v) { return finite(std::exp(v)); }
 
+/// A natural logarithm turned base 10 as the files have it: ln / ln(10).
+inline double lnToLog10(double ln) { return ln / std::log(10.0); }
+
 /// The base-10 logarithm of v + 1 as the files have it: ln(v + 1) / ln(10).
-inline double log10Plus1(double v) { return naturalLog(v + 1.0) / std::log(10.0); }
+inline double log10Plus1(double v) { return lnToLog10(naturalLog(v + 1.0)); }
 
 } // namespace vorlex
