@@ -40,6 +40,7 @@ const Member& memberOf(DateExport which) {
   return kMembers[static_cast<int>(which)];
 }
 
+// "spec. date" in the prompt is the specific date of the export.
 std::string datePrompt(const DateExportTexts& texts) {
   return std::string(texts.dateFirstLine) + "\n" +
          "You can use the saved file to run general bootstrap to find the CI of spec. date.\n"

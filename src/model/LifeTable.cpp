@@ -20,7 +20,6 @@ void VorlexAGosub640(Session& session) {
   for (int age = 0; age <= m.LastAge; ++age)
     for (int stage = 1; stage <= m.NrStage; ++stage)
       m.Lxj(age, stage) = 0;
-
 }
 
 void workOutDeathRate(Session& session) {

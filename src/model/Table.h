@@ -23,9 +23,10 @@ extern const bool kPagesFromTheSystem;
 void* zeroPages(std::size_t bytes);
 /// Gives back what zeroPages handed out.
 void returnPages(void* pages, std::size_t bytes);
-/// Tells the system that the bytes from `first` on, handed out by
-/// zeroPages, will all be written soon: a span of several megabytes is
-/// then better served by large pages than by one page at a time.
+/// Tells the system that the bytes from `first` on will all be written
+/// soon: a span of several megabytes, handed out by zeroPages, is then
+/// served in large pages, a shorter one is handed over at once rather than
+/// a page at each first write.
 void expectWrites(void* first, std::size_t bytes);
 
 // The cells of a table. Numbers take memory that is zero until first

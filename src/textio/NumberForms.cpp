@@ -23,13 +23,7 @@ constexpr int kLargestFixedExponent = 14;
 
 bool isBlank(char c) { return c == ' ' || c == '\t'; }
 
-} // namespace
-
-namespace {
 constexpr std::size_t kDigitsRoom = kNumberTextRoom - 1;
-}
-
-namespace {
 
 __extension__ typedef unsigned __int128 u128; // GCC and clang on 64-bit targets
 
@@ -105,9 +99,9 @@ bool scaledInDoubles(double value, int k, std::uint64_t& rounded) {
 }
 
 // The 15 significant digits of a positive finite value, correctly rounded
-// as printf's "%.14e" gives them, and its decimal exponent, worked out in
-// integers; false for magnitudes beyond about 1e-18..1e15, left to the
-// library.
+// as printf's "%.14e" gives them, and its decimal exponent, worked out
+// exactly in doubles or integers; false for magnitudes beyond about
+// 1e-18..1e15, left to the library.
 bool fifteenDigits(double value, std::uint64_t& digits, int& exponent) {
   if (value < 1e-18 || value >= 1e15)
     return false;

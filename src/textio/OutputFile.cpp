@@ -4,7 +4,6 @@
 
 #include <algorithm>
 #include <cerrno>
-#include <cstring>
 #include <utility>
 
 #include <sys/stat.h>
@@ -53,8 +52,7 @@ int OutputFile::column() const {
 }
 
 bool OutputFile::handOver() {
-  column(); // the start of the line, before the text goes
-
+  column(); // where the line starts, found before its text goes
   std::size_t done = 0;
   while (done < size_) {
     const ssize_t written = ::write(fd_, buffer_.get() + done, size_ - done);

@@ -72,10 +72,12 @@ TEST(EtEquations, FailuresKeepTheDaysFilledBeforeThem) {
     } catch (const RuntimeError& error) {
       EXPECT_EQ(error.code(), c.code) << c.what;
     }
-    if (c.lastFilled >= 0)
+    if (c.lastFilled >= 0) {
       EXPECT_NE(fresh.m.EtDay(c.lastFilled), 0) << c.what;
-    if (c.lastFilled < kLastDaySlot)
+    }
+    if (c.lastFilled < kLastDaySlot) {
       EXPECT_EQ(fresh.m.EtDay(c.lastFilled + 1), 0) << c.what;
+    }
   }
 }
 
