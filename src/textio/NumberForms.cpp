@@ -253,22 +253,11 @@ std::string digits(double value) {
   return std::string(text, writeDigits(value, text));
 }
 
-std::string blankLed(double value) {
-  char text[kDigitsRoom + 1];
-  return std::string(text, writeBlankLed(value, text));
-}
+std::string blankLed(double value) { return NumberText(value, NumberText::Form::BlankLed).str(); }
 
-std::string stripped(double value) {
-  char text[kDigitsRoom + 1];
-  return std::string(text + 1, writeBlankLed(value, text) - 1);
-}
+std::string stripped(double value) { return NumberText(value, NumberText::Form::Stripped).str(); }
 
-std::string printForm(double value) {
-  char text[kDigitsRoom + 2];
-  const std::size_t size = writeBlankLed(value, text);
-  text[size] = ' ';
-  return std::string(text, size + 1);
-}
+std::string printForm(double value) { return NumberText(value, NumberText::Form::Print).str(); }
 
 double roundHalfEven(double value) {
   // The default floating-point environment rounds to nearest, ties to even.
