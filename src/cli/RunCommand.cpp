@@ -190,6 +190,9 @@ int runCommand(const std::vector<std::string>& args, std::ostream& out, std::ost
 
   auto owned = std::make_unique<Session>(prompter);
   Session& session = *owned;
+  // A run of the command line projects once and ends: no later projection
+  // adds to the sizes of the ages of its days.
+  session.keepsAgeSizes = false;
   if (!options.date.empty())
     session.shortDate = options.date;
   prompter.answerFirst(MainForm::kDataFileDialogTitle, options.dataFile);

@@ -67,6 +67,8 @@ private:
 // left out adds exactly 0 to a sum, which leaves the sum as it is. The
 // shadow matrix of physogastry keeps whole windows.
 class DayStep {
+  using DaySizes = std::array<double, kLastAgeSlot + 1>;
+
 public:
   DayStep(Session& session, const DayStepRules& rules)
       : session_(session), rules_(rules), m_(session.model()), lastAge_(m_.LastAge), stages_(m_.NrStage),
@@ -337,26 +339,39 @@ private:
       }
       nAges_ = nextAges_;
     }
-    m_.TotalSize(t) = finite(sumAges(next_, nextAges_, &m_.AgeSize(0, t), m_.TotalSize(t)));
+    m_.TotalSize(t) = finite(sumAges(next_, nextAges_, ageSizesOf(m_.AgeSize, daySizes_, t), m_.TotalSize(t)));
     if (!physogastry_)
       return;
     for (int j = 1; j <= stages_; ++j)
       std::copy(nextPhysoN_.stage(j), nextPhysoN_.stage(j) + lastAge_ + 1, physoN_.stage(j));
-    m_.PhysoTotalSize(t) = sumAges(nextPhysoN_, physoAges_, &m_.PhysoAgeSize(0, t), m_.PhysoTotalSize(t));
+    m_.PhysoTotalSize(t) =
+        sumAges(nextPhysoN_, physoAges_, ageSizesOf(m_.PhysoAgeSize, physoDaySizes_, t), m_.PhysoTotalSize(t));
+  }
+
+  // Where the sizes of the ages of day t add up: the day's column of the
+  // table when the session keeps them, else a column of the step's own
+  // that holds zeros whenever a day starts.
+  double* ageSizesOf(Table2<double>& table, DaySizes& own, int t) {
+    return session_.keepsAgeSizes ? &table(0, t) : own.data();
   }
 
   // Adds the ages of the matrix to their sizes of the day, `sizes` (ages
   // 0..lastAge side by side), and those sizes, age by age, to `total`.
   // An age that no stage holds keeps its size; a size of 0 adds nothing.
+  // Sizes that the session doesn't keep go back to zero once added.
   double sumAges(const Cells& matrix, const AgeWindows& ages, double* sizes, double total) const {
     for (int j = 1; j <= stages_; ++j) {
       const double* n = matrix.stage(j);
       for (int x = ages[j].first; x <= ages[j].last; ++x)
         sizes[x] += n[x];
     }
+    const bool forget = !session_.keepsAgeSizes;
     for (int x = 0; x <= lastAge_; ++x)
-      if (sizes[x] != 0)
+      if (sizes[x] != 0) {
         total += sizes[x];
+        if (forget)
+          sizes[x] = 0;
+      }
     return total;
   }
 
@@ -553,6 +568,7 @@ private:
   RateWindows rates_;
   AgeWindows nAges_{}, nextAges_{}; // where PopN and NextN may hold individuals
   AgeWindows allAges_{}, physoAges_{};
+  DaySizes daySizes_{}, physoDaySizes_{}; // the sizes of a day's ages, when not kept
   Cells n_, next_, physoN_, nextPhysoN_;
   Cells growth_, develop_, fecundity_, death_, consumption_, weigh_, density_;
 };

@@ -46,13 +46,19 @@ void startPopulationOfDayZero(Session& session, bool addCoefficientsAboveK) {
 
 void recordAgesOfDayZero(Session& session) {
   Model& m = session.model();
+  // The size of an age adds to what the day holds; a session that doesn't
+  // keep the sizes holds nothing there.
+  const bool kept = session.keepsAgeSizes;
   for (int age = 0; age <= m.LastAge; ++age) {
+    double ageSize = kept ? m.AgeSize(age, 0) : 0;
     for (int stage = 1; stage <= m.NrStage; ++stage) {
-      m.AgeSize(age, 0) += m.PopN(age, stage) * m.StageSurvivalDay(stage, 0);
+      ageSize += m.PopN(age, stage) * m.StageSurvivalDay(stage, 0);
       m.InitialAgeN(age) += m.PopN(age, stage);
     }
+    if (kept)
+      m.AgeSize(age, 0) = ageSize;
     m.InitialSize += m.InitialAgeN(age);
-    m.TotalSize(0) += m.AgeSize(age, 0);
+    m.TotalSize(0) += ageSize;
   }
 }
 

@@ -9,7 +9,7 @@ namespace vorlex {
 void VorlexAGosub640(Session& session) {
   Model& m = session.model();
   const int lastDay = checkedInt16(m.SimTime + 1);
-  expectTablesOfTheRun(m);
+  expectTablesOfTheRun(m, session.keepsAgeSizes);
   for (int stage = 1; stage <= m.NrStage; ++stage)
     for (int t = 0; t <= lastDay; ++t) {
       m.StageSurvivalDay(stage, t) = 1;

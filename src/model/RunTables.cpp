@@ -6,7 +6,7 @@
 
 namespace vorlex {
 
-void expectTablesOfTheRun(Model& m) {
+void expectTablesOfTheRun(Model& m, bool keepsAgeSizes) {
   // Out of range values are the load's to refuse, a little later.
   if (m.LastAge < 0 || m.LastAge > kLastAgeSlot || m.NrStage < 1 || m.NrStage > kLastStageSlot)
     return;
@@ -17,7 +17,8 @@ void expectTablesOfTheRun(Model& m) {
 
   m.AgeSize.narrowRowsTo(ages);
   m.PhysoAgeSize.narrowRowsTo(ages);
-  m.AgeSize.expectWritesUpTo(days);
+  if (keepsAgeSizes)
+    m.AgeSize.expectWritesUpTo(days);
 
   for (auto* table : {&m.PopN, &m.NextN, &m.InitialN, &m.GrowthRate, &m.DevelopRate, &m.Fecundity, &m.DeathRate,
                       &m.WeighCoefAgeStage, &m.DensityCoefAgeStage, &m.Lxj, &m.ReportMatrix, &m.Consumption})

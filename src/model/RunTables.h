@@ -10,6 +10,8 @@ struct Model;
 /// system then hands over their memory in one go instead of a page at each
 /// first use, and the ages of each day lie in one piece. A matter of speed
 /// only: a table left out is served page by page as before.
-void expectTablesOfTheRun(Model& m);
+/// The sizes of the ages of each day are among them when the session keeps
+/// them.
+void expectTablesOfTheRun(Model& m, bool keepsAgeSizes);
 
 } // namespace vorlex

@@ -97,6 +97,12 @@ public:
   /// (0..7); a run leaves them where they were.
   std::int16_t ChartCycleIndex = 0;
   std::int16_t LargeChartCycleIndex = 0;
+  /// Whether the size of each age on each day (AgeSize, PhysoAgeSize) stays
+  /// in the model for a later projection of the session to add to. A
+  /// session that projects once and ends, as a command-line run does, sums
+  /// the ages of each day afresh and keeps the day's total alone: for the
+  /// largest table 8 MB that nothing would read again.
+  bool keepsAgeSizes = true;
   /// Whether grafform was loaded: its Form_Load runs on its first showing.
   bool largeGraphsLoaded = false;
   /// The efficacy of a treatment on each day, when the run was an

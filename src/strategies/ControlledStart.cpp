@@ -24,11 +24,13 @@ void controlledDayZero(Session& session, Start start) {
   m.Day = 0;
   m.StageSum(0) = 0;
   // Only sizes that hold something are cleared: the rest is zero already,
-  // and a large table stays untouched.
-  for (int t = 0; t <= lastDay; ++t)
-    for (int x = 0; x <= m.LastAge; ++x)
-      if (m.AgeSize(x, t) != 0)
-        m.AgeSize(x, t) = 0;
+  // and a large table stays untouched. A session that doesn't keep them
+  // has none.
+  if (session.keepsAgeSizes)
+    for (int t = 0; t <= lastDay; ++t)
+      for (int x = 0; x <= m.LastAge; ++x)
+        if (m.AgeSize(x, t) != 0)
+          m.AgeSize(x, t) = 0;
   // The start by threshold clears the ages' sizes that day 0 sums; the
   // predefined start clears a copy that nothing sums.
   if (byThreshold)

@@ -304,6 +304,32 @@ TEST_F(PopulationGrowth, SecondProjectionAddsToTheSeries) {
   EXPECT_EQ(m.WeighedSize(1), 65);
 }
 
+// A session that projects once and ends doesn't keep the sizes of the
+// ages: each day's are summed afresh, to the same totals, with and without
+// the shadow matrix of physogastry.
+TEST_F(PopulationGrowth, TotalsAreTheSameWhenTheAgesSizesAreNotKept) {
+  for (const char* physogastry : {"No", "Yes"}) {
+    RecordingPrompts otherPrompts;
+    Session kept{otherPrompts}, once{otherPrompts};
+    once.keepsAgeSizes = false;
+    for (Session* s : {&kept, &once}) {
+      loadTestData(*s, "tiny3.txt");
+      s->flags.Physogastry = physogastry;
+      s->model().SimTime = 30;
+      VorlexBSetStageSurvivalRto1(*s);
+      VorlexDGosub160PopulationGrowth(*s);
+    }
+    const Model &k = kept.model(), &o = once.model();
+    for (int t = 0; t <= 31; ++t) {
+      EXPECT_EQ(o.TotalSize(t), k.TotalSize(t)) << physogastry << " day " << t;
+      EXPECT_EQ(o.PhysoTotalSize(t), k.PhysoTotalSize(t)) << physogastry << " day " << t;
+      for (int x = 0; x <= o.LastAge; ++x)
+        EXPECT_EQ(o.AgeSize(x, t) + o.PhysoAgeSize(x, t), 0);
+    }
+    EXPECT_GT(k.AgeSize(1, 1), 0);
+  }
+}
+
 TEST_F(PopulationGrowth, LongestProjectionFillsTheLastDaySlot) {
   start(1004);
   grow();
