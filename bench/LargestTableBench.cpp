@@ -6,12 +6,14 @@
 
 #include "engine/PopulationGrowth.h"
 #include "model/InitialCalculation.h"
+#include "textio/NumberForms.h"
 
 #include <benchmark/benchmark.h>
 
 #include <cstdlib>
 #include <filesystem>
 #include <string>
+#include <vector>
 
 namespace {
 
@@ -80,3 +82,36 @@ void BM_ProjectionOfTheLargestTable(benchmark::State& state) {
 BENCHMARK(BM_ProjectionOfTheLargestTable)->Unit(benchmark::kMillisecond);
 
 } // namespace
+
+// The conversion of the numbers that the files of a long run hold: the
+// series of the stages, their deaths and growth rates after the projection
+// of the largest table, each to its text as the figure files take it.
+void BM_DigitsOfTheLargestRunsNumbers(benchmark::State& state) {
+  const LargestTable table("vorlex-bench-largest-digits");
+  if (!table.built()) {
+    state.SkipWithError("tools/make_example.py could not build the table");
+    return;
+  }
+  vorlex::bench::DefaultAnswers answers(table.dataFile());
+  vorlex::Session session(answers);
+  vorlex::MainForm form(session);
+  vorlex::bench::loadExample(form, session, kDays);
+  vorlex::VorlexBSetStageSurvivalRto1(session);
+  vorlex::VorlexDGosub160PopulationGrowth(session);
+  session.files.closeAll();
+  const vorlex::Model& m = session.model();
+  std::vector<double> numbers;
+  for (int t = 0; t <= kDays; ++t)
+    for (int j = 1; j <= m.NrStage; ++j)
+      for (const double v : {m.StageSize(j, t), m.StageDeath(t, j), m.LogStageDeath(t, j), m.CumuStageDeath(t, j),
+                             m.StageGrowthLn(j, t), m.StageGrowthLog(j, t)})
+        numbers.push_back(v);
+  char text[vorlex::kNumberTextRoom];
+  for (auto _ : state)
+    for (const double v : numbers) {
+      benchmark::DoNotOptimize(vorlex::NumberText(v, vorlex::NumberText::Form::Stripped).writeInto(text));
+      benchmark::ClobberMemory();
+    }
+  state.SetItemsProcessed(state.iterations() * static_cast<std::int64_t>(numbers.size()));
+}
+BENCHMARK(BM_DigitsOfTheLargestRunsNumbers)->Unit(benchmark::kMillisecond);

@@ -145,26 +145,56 @@ constexpr char kDigitPairs[] = "000102030405060708091011121314151617181920212223
                                "40414243444546474849505152535455565758596061626364656667686970717273747576777879"
                                "8081828384858687888990919293949596979899";
 
-void putPair(unsigned pair, char* at) { std::memcpy(at, kDigitPairs + 2 * pair, 2); }
-void putFour(unsigned four, char* at) {
-  putPair(four / 100, at);
-  putPair(four % 100, at + 2);
+// The two digits of n < 100 in ASCII, the first in the lower byte.
+std::uint64_t pairOf(std::uint32_t n) {
+  std::uint16_t pair = 0;
+  std::memcpy(&pair, kDigitPairs + 2 * n, 2);
+  return pair;
 }
 
-// The 16 digits of digits < 10^16 into `out`, in four independent parts.
-void putSixteen(std::uint64_t digits, char* out) {
-  const auto high = static_cast<unsigned>(digits / 100000000);
-  const auto low = static_cast<unsigned>(digits % 100000000);
-  putFour(high / 10000, out);
-  putFour(high % 10000, out + 4);
-  putFour(low / 10000, out + 8);
-  putFour(low % 10000, out + 12);
+// The 8 digits of n < 10^8 in ASCII, the first in the lowest byte: four
+// pairs looked up side by side.
+std::uint64_t eightDigits(std::uint32_t n) {
+  const std::uint32_t high = n / 10000, low = n % 10000;
+  return pairOf(high / 100) | pairOf(high % 100) << 16 | pairOf(low / 100) << 32 | pairOf(low % 100) << 48;
 }
 
-} // namespace
+// The 15 digits of digits (10^14 <= digits < 10^15) in ASCII, the first in
+// the lowest byte of the word, its last byte 0; worked out and handled in
+// registers, and stored whole.
+u128 fifteenInAscii(std::uint64_t digits) {
+  static_assert(std::endian::native == std::endian::little);
+  // Digits 1-7 behind the '0' of a number below 10^7, then digits 8-15.
+  const std::uint64_t front = eightDigits(static_cast<std::uint32_t>(digits / 100000000)) >> 8;
+  const std::uint64_t back = eightDigits(static_cast<std::uint32_t>(digits % 100000000));
+  return (static_cast<u128>(back) << 56) | front;
+}
 
-std::size_t writeDigits(double value, char* out) {
-  if (value == 0.0 || std::isnan(value)) {
+// How many of the 15 digits remain without the zeros at their end: the
+// last digit that is not '0' is the highest byte that differs from '0'.
+int significantCount(u128 fifteen) {
+  constexpr u128 kZeros = (static_cast<u128>(0x30303030303030u) << 64) | 0x3030303030303030u;
+  const u128 differs = fifteen ^ kZeros;
+  const auto high = static_cast<std::uint64_t>(differs >> 64);
+  const auto low = static_cast<std::uint64_t>(differs);
+  const int bit = high != 0 ? 127 - std::countl_zero(high) : 63 - std::countl_zero(low);
+  return bit / 8 + 1;
+}
+
+void store(char* out, u128 bytes) { std::memcpy(out, &bytes, sizeof bytes); }
+
+// The digits of a magnitude: a number that is not negative, or NaN, which
+// is written as 0. The copies take whole runs of digits, sixteen at a
+// time; the room of a number text takes what they write beyond the end.
+std::size_t writeMagnitude(double value, char* out) {
+  // A whole number below 10^15 is its own 15 digits, written without the
+  // zeros of a fraction: the days, the counts, the sizes of many a cell.
+  if (value < 1e15) {
+    const auto whole = static_cast<std::uint64_t>(value);
+    if (static_cast<double>(whole) == value)
+      return static_cast<std::size_t>(std::to_chars(out, out + kDigitsRoom, whole).ptr - out);
+  }
+  if (std::isnan(value)) {
     out[0] = '0';
     return 1;
   }
@@ -176,34 +206,25 @@ std::size_t writeDigits(double value, char* out) {
   // decimal exponent.
   std::uint64_t digits = 0;
   int exponent = 0;
-  if (!fifteenDigits(std::fabs(value), digits, exponent)) {
+  if (!fifteenDigits(value, digits, exponent)) {
     char text[kDigitsRoom];
-    const auto written =
-        std::to_chars(text, text + sizeof text, std::fabs(value), std::chars_format::scientific, 14);
+    const auto written = std::to_chars(text, text + sizeof text, value, std::chars_format::scientific, 14);
     const char* p = text;
     for (; *p != 'e'; ++p)
       if (*p != '.')
         digits = 10 * digits + static_cast<std::uint64_t>(*p - '0');
     std::from_chars(p + (p[1] == '+' ? 2 : 1), written.ptr, exponent);
   }
-  // The 15 digits, and how many remain without the zeros at the end. The
-  // copies below take whole runs of them; the room of a number text takes
-  // what they write beyond.
-  char sixteen[16];
-  putSixteen(digits, sixteen);
-  const char* fifteen = sixteen + 1;
-  int count = 15;
-  while (count > 1 && fifteen[count - 1] == '0')
-    --count;
+  // The 15 digits, and how many remain without the zeros at their end.
+  const u128 fifteen = fifteenInAscii(digits);
+  const int count = significantCount(fifteen);
 
-  char* o = out;
-  if (value < 0)
-    *o++ = '-';
   if (exponent < kSmallestFixedExponent || exponent > kLargestFixedExponent) {
-    *o++ = fifteen[0];
+    char* o = out;
+    *o++ = static_cast<char>(fifteen);
     if (count > 1) {
       *o++ = '.';
-      std::memcpy(o, fifteen + 1, 14);
+      store(o, fifteen >> 8);
       o += count - 1;
     }
     *o++ = 'E';
@@ -215,37 +236,50 @@ std::size_t writeDigits(double value, char* out) {
     return static_cast<std::size_t>(o - out);
   }
   if (exponent < 0) {
-    *o++ = '.';
-    o = std::fill_n(o, -exponent - 1, '0');
-    std::memcpy(o, fifteen, 15);
-    return static_cast<std::size_t>(o + count - out);
+    // Up to three zeros between the point and the first digit.
+    std::memcpy(out, ".000", 4);
+    const int zeros = -exponent - 1;
+    store(out + 1 + zeros, fifteen);
+    return static_cast<std::size_t>(1 + zeros + count);
   }
+  // A whole number has the zeros of its units among its digits; any other
+  // number has the point among them, one byte further on what follows it.
   const int integerDigits = exponent + 1;
-  std::memcpy(o, fifteen, 15);
-  if (count <= integerDigits)
-    return static_cast<std::size_t>(o + integerDigits - out); // the zeros of the integer are there
-  std::memcpy(o + integerDigits + 1, fifteen + integerDigits, static_cast<std::size_t>(15 - integerDigits));
-  o[integerDigits] = '.';
-  return static_cast<std::size_t>(o + count + 1 - out);
+  if (count <= integerDigits) {
+    store(out, fifteen);
+    return static_cast<std::size_t>(integerDigits);
+  }
+  const int point = 8 * integerDigits; // below 120: a digit follows the point
+  const u128 integer = fifteen & ((static_cast<u128>(1) << point) - 1);
+  store(out, integer | (static_cast<u128>('.') << point) | ((fifteen >> point) << (point + 8)));
+  return static_cast<std::size_t>(count + 1);
+}
+
+} // namespace
+
+std::size_t writeDigits(double value, char* out) {
+  if (value < 0) {
+    out[0] = '-';
+    return 1 + writeMagnitude(-value, out + 1);
+  }
+  return writeMagnitude(value, out);
 }
 
 std::size_t writeBlankLed(double value, char* out) {
   // A blank takes the place of the sign of a number that is not negative.
-  const std::size_t size = writeDigits(value, out + 1);
-  if (out[1] == '-') {
-    std::copy(out + 1, out + 1 + size, out);
-    return size;
-  }
-  out[0] = ' ';
-  return size + 1;
+  out[0] = value < 0 ? '-' : ' ';
+  return 1 + writeMagnitude(std::fabs(value), out + 1);
 }
 
-NumberText::NumberText(double value, Form form) {
-  std::size_t size = writeBlankLed(value, text_);
-  if (form == Form::Print)
-    text_[size++] = ' ';
-  first_ = form == Form::Stripped ? 1 : 0;
-  size_ = static_cast<unsigned char>(size - first_);
+std::size_t NumberText::writeInto(char* out) const {
+  // The stripped form is the blank-led one without its first character.
+  if (form_ == Form::Stripped)
+    return writeMagnitude(std::fabs(value_), out);
+  const std::size_t size = writeBlankLed(value_, out);
+  if (form_ != Form::Print)
+    return size;
+  out[size] = ' ';
+  return size + 1;
 }
 
 std::string digits(double value) {

@@ -37,12 +37,21 @@ std::size_t writeBlankLed(double value, char* out);
 
 /// A number in the stripped, blank-led or print form, held in place rather
 /// than in a string of its own: rows of numbers are made of many of them.
-/// It reads as a string_view; joined to a text with + it gives a string.
+/// A print line writes it straight into its text; read as a string_view it
+/// is written into a text of its own, once. Joined to a text with + it
+/// gives a string.
 class NumberText {
 public:
   enum class Form { Stripped, BlankLed, Print };
-  NumberText(double value, Form form);
-  std::string_view view() const { return {text_ + first_, size_}; }
+  NumberText(double value, Form form) : value_(value), form_(form) {}
+  /// Writes the form into `out`, which has room for kNumberTextRoom
+  /// characters; the characters written.
+  std::size_t writeInto(char* out) const;
+  std::string_view view() const {
+    if (size_ == 0)
+      size_ = static_cast<unsigned char>(writeInto(text_));
+    return {text_, size_};
+  }
   operator std::string_view() const { return view(); }
   std::string str() const { return std::string(view()); }
   friend std::string operator+(const NumberText& number, std::string_view text) {
@@ -51,9 +60,10 @@ public:
   friend std::string operator+(std::string text, const NumberText& number) { return text.append(number.view()); }
 
 private:
-  char text_[kNumberTextRoom + 1];
-  unsigned char first_ = 0;
-  unsigned char size_ = 0;
+  double value_;
+  Form form_;
+  mutable unsigned char size_ = 0; // 0 until written: every form has a character
+  mutable char text_[kNumberTextRoom];
 };
 
 /// Rounds to the nearest integer, ties to the even one.

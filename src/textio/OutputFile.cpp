@@ -133,11 +133,6 @@ void OutputFile::close() {
   }
 }
 
-void OutputFile::putText(std::string_view text) {
-  std::copy(text.begin(), text.end(), room(text.size()));
-  size_ += text.size();
-}
-
 void OutputFile::put(const Value& value) {
   if (value.isNumber())
     put(value.toNumber());

@@ -3,6 +3,7 @@
 #include "textio/NumberForms.h"
 #include "textio/Value.h"
 
+#include <algorithm>
 #include <concepts>
 #include <memory>
 #include <string>
@@ -81,8 +82,12 @@ public:
   void close();
 
 private:
-  void putText(std::string_view text);
+  void putText(std::string_view text) {
+    std::copy(text.begin(), text.end(), room(text.size()));
+    size_ += text.size();
+  }
   void put(std::string_view text) { putText(text); }
+  void put(const NumberText& number) { size_ += number.writeInto(room(kNumberTextRoom)); }
   void put(const std::string& text) { putText(text); }
   void put(const char* text) { putText(text); }
   void put(const Value& value);

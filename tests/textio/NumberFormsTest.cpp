@@ -138,8 +138,11 @@ TEST(NumberFormsDigits, FifteenCorrectlyRoundedDigitsForEveryDouble) {
     values.push_back(value);
     const double tie = static_cast<double>(random() % 900000000000000u + 100000000000000u) + 0.5;
     values.push_back(std::ldexp(tie, static_cast<int>(random() % 100) - 60));
+    // Whole numbers up to 10^15 and beyond, where they take the exponent.
+    values.push_back(static_cast<double>(static_cast<std::int64_t>(random() % 4000000000000000u) - 2000000000000000));
+    values.push_back(static_cast<double>(static_cast<int>(random() % 20001) - 10000));
   }
-  for (const double edge : {1e-18, 1e15, 1e14, 1.0})
+  for (const double edge : {1e-18, 1e15, 1e14, 1.0, 999999999999999.0, 4503599627370496.0})
     values.insert(values.end(), {edge, std::nextafter(edge, 0.0), std::nextafter(edge, 1e300)});
   for (const double value : values) {
     char reference[40];
