@@ -140,22 +140,30 @@ void OutputFile::put(const Value& value) {
     putText(value.toText());
 }
 
-void OutputFile::put(Tab tab) {
-  const int target = tab.column < 1 ? 1 : tab.column;
-  if (column() > target)
-    endLine();
-  putText(std::string(static_cast<std::size_t>(target - column()), ' '));
+void OutputFile::putBlanks(int count) {
+  if (count <= 0)
+    return;
+  const auto blanks = static_cast<std::size_t>(count);
+  std::fill_n(room(blanks), blanks, ' ');
+  size_ += blanks;
 }
 
-void OutputFile::put(Spc spc) {
-  if (spc.count > 0)
-    putText(std::string(static_cast<std::size_t>(spc.count), ' '));
+void OutputFile::put(Tab tab) {
+  const int target = tab.column < 1 ? 1 : tab.column;
+  int at = column();
+  if (at > target) {
+    endLine();
+    at = 1;
+  }
+  putBlanks(target - at);
 }
+
+void OutputFile::put(Spc spc) { putBlanks(spc.count); }
 
 void OutputFile::put(Zone) {
   const int at = column();
   const int next = ((at - 1) / kZoneWidth + 1) * kZoneWidth + 1;
-  putText(std::string(static_cast<std::size_t>(next - at), ' '));
+  putBlanks(next - at);
 }
 
 void OutputFile::writeItem(std::string_view text, bool first) {

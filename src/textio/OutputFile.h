@@ -91,6 +91,7 @@ private:
   void put(const std::string& text) { putText(text); }
   void put(const char* text) { putText(text); }
   void put(const Value& value);
+  void putBlanks(int count);
   void put(Tab tab);
   void put(Spc spc);
   void put(Zone);
