@@ -1,5 +1,7 @@
 #pragma once
 
+#include "model/ZeroPages.h"
+
 #include <cstdint>
 #include <map>
 #include <optional>
@@ -126,7 +128,8 @@ private:
 
   int rows_ = 0;
   std::vector<std::string> labels_;
-  std::vector<double> cells_;
+  // A long run's chart holds hundreds of pages of values.
+  std::vector<double, WrittenPages<double>> cells_;
 };
 
 } // namespace vorlex

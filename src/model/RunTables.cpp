@@ -29,6 +29,9 @@ void expectTablesOfTheRun(Model& m, bool keepsAgeSizes) {
   m.WeakSize.expectWritesThrough(m.WeakSize.upper(0), days);
   for (auto* table : {&m.StageDeath, &m.LogStageDeath, &m.CumuStageDeath, &m.LogCumuStageDeath})
     table->expectWritesThrough(days, stages);
+  // The life table by age, one age beyond the last.
+  for (auto* series : {&m.AgeX, &m.Lx, &m.Mx, &m.MxCopy, &m.Px, &m.InitialAgeN})
+    series->expectWritesThrough(std::min(ages + 1, kLastAgeSlot));
   for (auto* series : {&m.TotalSize, &m.StageSum, &m.DailyWID, &m.WeighedSize, &m.CUMWID, &m.VulnerableSize,
                        &m.VulnerableTotal, &m.TotalDifference, &m.TotalGrowthLn, &m.StageSumGrowthLn,
                        &m.StageSumGrowthLog, &m.TotalDeath, &m.LogTotalDeath, &m.EtDay})
