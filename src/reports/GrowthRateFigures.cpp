@@ -69,20 +69,19 @@ void writeGrowthRates(Session& session, const GrowthRateFile& file) {
   out.write(title);
   out.print(stagesHeading(m) + (physo ? "Burst-ready," : "") + headingEnding(m, file));
   const std::string lifeTable = lifeTableColumns(m, file);
-  std::string row;
+  Table2<double>& stageRates = m.*file.stageRates;
   for (int t = 0; t <= m.SimTime; ++t) {
-    row.assign(timeColumn(m, t)) += ',';
+    out.printOpen(timeColumn(m, t), ",");
     for (int j = 1; j <= m.NrStage; ++j) {
-      double& rate = (m.*file.stageRates)(j, t);
+      double& rate = stageRates(j, t);
       if (std::fabs(rate) < kSmallestRate)
         rate = 0; // for good: the charts drawn later show the zero
-      row.append(withSign(rate)) += ',';
+      out.printOpen(withSign(rate), ",");
     }
     if (physo)
-      row.append(withSign((m.*file.burstReadyRates)(t))) += ',';
+      out.printOpen(withSign((m.*file.burstReadyRates)(t)), ",");
     // Kept on purpose: unlike the stage rates, the total rate loses its sign.
-    row.append(bare((m.*file.totalRates)(t))).append(",").append(lifeTable);
-    out.print(row);
+    out.print(bare((m.*file.totalRates)(t)), ",", lifeTable);
   }
   closeFigureFile(session);
 }

@@ -58,15 +58,14 @@ void writeStageSizePlusOneFile(Session& session) {
   // total column, and only the shifted rows add 1 to the burst-ready ones.
   writeEmptyStageRows(out, m, raw(1));
   for (int t = 0; t <= m.SimTime; ++t) {
-    std::string last;
+    out.printOpen(simulationTime(m, t), ",", joinedStages(m, [&](int j) { return bare(m.StageSize(j, t) + 1); }),
+                  ",");
     if (physogastry(session))
-      last = raw(m.BurstReadySize(t) + (released(m) ? 1 : 0)).view();
+      out.print(raw(m.BurstReadySize(t) + (released(m) ? 1 : 0)));
     else if (released(m))
-      last = bare(adults(m, t) + 1).view();
+      out.print(bare(adults(m, t) + 1));
     else
-      last = bare(adults(m, t) + 1) + "," + bare(m.TotalSize(t) + 1);
-    out.print(simulationTime(m, t), ",", joinedStages(m, [&](int j) { return bare(m.StageSize(j, t) + 1); }),
-              ",", last);
+      out.print(bare(adults(m, t) + 1), ",", bare(m.TotalSize(t) + 1));
   }
   closeFigureFile(session);
 }
