@@ -73,24 +73,27 @@ constexpr std::array<double, 23> kExactPowersOfTen = {1e0,  1e1,  1e2,  1e3,  1e
                                                        1e8,  1e9,  1e10, 1e11, 1e12, 1e13, 1e14, 1e15,
                                                        1e16, 1e17, 1e18, 1e19, 1e20, 1e21, 1e22};
 
-// The same rounding in doubles, for the powers of ten that are exact: the
-// rounded product and its exact error (Dekker's product, without relying
-// on a fused multiply-add), the error deciding the halves. The product is
-// below 2^52 whenever it is of use, where adding 2^52 rounds it to an
-// integer, halves to even.
+// The same rounding in doubles, for the powers of ten that are exact. The
+// product is below 2^52 whenever it is of use, where adding 2^52 rounds it
+// to an integer, halves to even; rounding is monotonic and a half is a
+// double there, so the rounded product rounds as the exact one does but
+// where it is a half itself. Then the exact product's error (Dekker's
+// product, without relying on a fused multiply-add) decides.
 bool scaledInDoubles(double value, int k, std::uint64_t& rounded) {
   if (k < 0 || k >= static_cast<int>(kExactPowersOfTen.size()))
     return false;
   const double power = kExactPowersOfTen[static_cast<std::size_t>(k)];
   const double product = value * power;
-  constexpr double kSplitter = 134217729.0; // 2^27 + 1
-  const double a = kSplitter * value, aHigh = a - (a - value), aLow = value - aHigh;
-  const double b = kSplitter * power, bHigh = b - (b - power), bLow = power - bHigh;
-  const double error = ((aHigh * bHigh - product) + aHigh * bLow + aLow * bHigh) + aLow * bLow;
   constexpr double kTwoTo52 = 4503599627370496.0;
   const double whole = (product + kTwoTo52) - kTwoTo52;
   const double rest = product - whole;
   rounded = static_cast<std::uint64_t>(whole);
+  if (std::fabs(rest) != 0.5)
+    return true;
+  constexpr double kSplitter = 134217729.0; // 2^27 + 1
+  const double a = kSplitter * value, aHigh = a - (a - value), aLow = value - aHigh;
+  const double b = kSplitter * power, bHigh = b - (b - power), bLow = power - bHigh;
+  const double error = ((aHigh * bHigh - product) + aHigh * bLow + aLow * bHigh) + aLow * bLow;
   if (rest == 0.5 && error > 0)
     ++rounded;
   else if (rest == -0.5 && error < 0)
@@ -190,7 +193,7 @@ std::size_t writeMagnitude(double value, char* out) {
   // A whole number below 10^15 is its own 15 digits, written without the
   // zeros of a fraction: the days, the counts, the sizes of many a cell.
   if (value < 1e15) {
-    const auto whole = static_cast<std::uint64_t>(value);
+    const auto whole = static_cast<std::int64_t>(value);
     if (static_cast<double>(whole) == value)
       return static_cast<std::size_t>(std::to_chars(out, out + kDigitsRoom, whole).ptr - out);
   }
