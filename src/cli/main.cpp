@@ -11,11 +11,15 @@
 #include "textio/RuntimeError.h"
 #include "textio/SilentPrompter.h"
 
+#include <cstdlib>
 #include <iostream>
 #if defined(__linux__)
 #include <cstdint>
 #include <sys/mman.h>
 #include <unistd.h>
+#endif
+#if defined(__GLIBC__)
+#include <malloc.h>
 #endif
 #include <string>
 #include <vector>
@@ -100,10 +104,33 @@ void mapCodeAtOnce() {
 #endif
 }
 
+// The heap of a run is taken in one piece at the start, its pages handed
+// over in one call, and kept: the buffers of the files and the texts of a
+// run then come from pages already there instead of a page at each first
+// write. Blocks up to a megabyte stay in the heap rather than in mappings
+// of their own, which would be fresh pages again.
+void takeTheHeapAtOnce() {
+#if defined(__GLIBC__) && defined(__linux__)
+  constexpr int kPopulateWrite = 23; // MADV_POPULATE_WRITE
+  constexpr std::size_t kHeap = 256 * 1024;
+  mallopt(M_MMAP_THRESHOLD, 1 << 20);
+  mallopt(M_TRIM_THRESHOLD, 8 << 20);
+  void* block = std::malloc(kHeap);
+  if (!block)
+    return;
+  const auto page = static_cast<std::uintptr_t>(sysconf(_SC_PAGESIZE));
+  const auto from = (reinterpret_cast<std::uintptr_t>(block) + page - 1) / page * page;
+  const auto to = (reinterpret_cast<std::uintptr_t>(block) + kHeap) / page * page;
+  madvise(reinterpret_cast<void*>(from), to - from, kPopulateWrite);
+  std::free(block);
+#endif
+}
+
 } // namespace
 
 int main(int argc, char** argv) {
   mapCodeAtOnce();
+  takeTheHeapAtOnce();
   const std::vector<std::string> args(argv + 1, argv + argc);
   if (args.empty()) {
     std::cerr << kUsage;
