@@ -1,7 +1,5 @@
 #pragma once
 
-#include "model/ZeroPages.h"
-
 #include <cstdint>
 #include <map>
 #include <optional>
@@ -128,8 +126,7 @@ private:
 
   int rows_ = 0;
   std::vector<std::string> labels_;
-  // A long run's chart holds hundreds of pages of values.
-  std::vector<double, WrittenPages<double>> cells_;
+  std::vector<double> cells_;
 };
 
 } // namespace vorlex

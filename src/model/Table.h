@@ -1,6 +1,5 @@
 #pragma once
 
-#include "model/ZeroPages.h"
 #include "textio/RuntimeError.h"
 
 #include <algorithm>
@@ -15,6 +14,20 @@
 namespace vorlex {
 
 namespace detail {
+
+/// Whether large tables take zeroed pages straight from the system.
+extern const bool kPagesFromTheSystem;
+/// Zeroed memory of at least `bytes` (a page or more), touched only when
+/// written; null when the system has none. Tables of many pages map their
+/// own; smaller ones share larger mappings.
+void* zeroPages(std::size_t bytes);
+/// Gives back what zeroPages handed out.
+void returnPages(void* pages, std::size_t bytes);
+/// Tells the system that the bytes from `first` on will all be written
+/// soon: a span of several megabytes, handed out by zeroPages, is then
+/// served in large pages, a shorter one is handed over at once rather than
+/// a page at each first write.
+void expectWrites(void* first, std::size_t bytes);
 
 // The cells of a table. Numbers take memory that is zero until first
 // written: the system hands out zeroed pages on demand, so a table sized
