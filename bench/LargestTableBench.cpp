@@ -57,45 +57,52 @@ void BM_WholeRunOfTheLargestTable(benchmark::State& state) {
 }
 BENCHMARK(BM_WholeRunOfTheLargestTable)->Unit(benchmark::kMillisecond);
 
+/// The table loaded into a session as a user loads it, for the work of its
+/// projection; nothing is loaded when the table could not be built.
+struct LoadedTable {
+  explicit LoadedTable(const std::string& folder) : table(folder), answers(table.dataFile()) {
+    if (table.built())
+      vorlex::bench::loadExample(form, session, kDays);
+  }
+  LargestTable table;
+  vorlex::bench::DefaultAnswers answers;
+  vorlex::Session session{answers};
+  vorlex::MainForm form{session};
+};
+
+bool skippedWithoutTable(benchmark::State& state, const LoadedTable& loaded) {
+  if (loaded.table.built())
+    return false;
+  state.SkipWithError("tools/make_example.py could not build the table");
+  return true;
+}
+
 // Day 0 is made again, with the timer stopped, before every projection.
 void BM_ProjectionOfTheLargestTable(benchmark::State& state) {
-  const LargestTable table("vorlex-bench-largest-projection");
-  if (!table.built()) {
-    state.SkipWithError("tools/make_example.py could not build the table");
+  LoadedTable loaded("vorlex-bench-largest-projection");
+  if (skippedWithoutTable(state, loaded))
     return;
-  }
-  vorlex::bench::DefaultAnswers answers(table.dataFile());
-  vorlex::Session session(answers);
-  vorlex::MainForm form(session);
-  vorlex::bench::loadExample(form, session, kDays);
-  vorlex::Model& m = session.model();
+  vorlex::Session& session = loaded.session;
   for (auto _ : state) {
     state.PauseTiming();
     vorlex::VorlexBSetStageSurvivalRto1(session);
     state.ResumeTiming();
     vorlex::VorlexDGosub160PopulationGrowth(session);
   }
-  if (m.Day != kDays + 2)
+  if (session.model().Day != kDays + 2)
     state.SkipWithError("the projection did not reach its last day");
   session.files.closeAll();
 }
 BENCHMARK(BM_ProjectionOfTheLargestTable)->Unit(benchmark::kMillisecond);
 
-} // namespace
-
 // The conversion of the numbers that the files of a long run hold: the
 // series of the stages, their deaths and growth rates after the projection
 // of the largest table, each to its text as the figure files take it.
 void BM_DigitsOfTheLargestRunsNumbers(benchmark::State& state) {
-  const LargestTable table("vorlex-bench-largest-digits");
-  if (!table.built()) {
-    state.SkipWithError("tools/make_example.py could not build the table");
+  LoadedTable loaded("vorlex-bench-largest-digits");
+  if (skippedWithoutTable(state, loaded))
     return;
-  }
-  vorlex::bench::DefaultAnswers answers(table.dataFile());
-  vorlex::Session session(answers);
-  vorlex::MainForm form(session);
-  vorlex::bench::loadExample(form, session, kDays);
+  vorlex::Session& session = loaded.session;
   vorlex::VorlexBSetStageSurvivalRto1(session);
   vorlex::VorlexDGosub160PopulationGrowth(session);
   session.files.closeAll();
@@ -115,3 +122,5 @@ void BM_DigitsOfTheLargestRunsNumbers(benchmark::State& state) {
   state.SetItemsProcessed(state.iterations() * static_cast<std::int64_t>(numbers.size()));
 }
 BENCHMARK(BM_DigitsOfTheLargestRunsNumbers)->Unit(benchmark::kMillisecond);
+
+} // namespace
