@@ -40,7 +40,8 @@ const Member& memberOf(DateExport which) {
   return kMembers[static_cast<int>(which)];
 }
 
-// "spec. date" in the prompt is the specific date of the export.
+// The prompt's second sentence names the date of the export in a short
+// form of its own, kept as the program has always shown it.
 std::string datePrompt(const DateExportTexts& texts) {
   return std::string(texts.dateFirstLine) + "\n" +
          "You can use the saved file to run general bootstrap to find the CI of spec. date.\n"

@@ -190,25 +190,18 @@ TEST_F(DateExportRun, WithoutConsumptionDataTheConsumptionFileStaysOpenAndEmpty)
   EXPECT_EQ(lineCount(text("c.txt")), 2);
 }
 
+// The dialogues of a click, title and text each, as reviewed in
+// tests/data/date-export-prompts.expected.
 TEST_F(DateExportRun, ThePromptsOfAClick) {
   prompts.answer(std::string(textsOf(DateExport::TotalSize).dateTitle) + "=2");
   prompts.answer(kOpenOrAppend + "Yes");
   prompts.answer("Open a file to save N(t).=" + folder.path("n.txt"));
   armDateExport(session, DateExport::TotalSize);
-  ASSERT_EQ(prompts.titles.size(), 4u) << ::testing::PrintToString(prompts.titles);
-  EXPECT_EQ(prompts.texts[0], "Enter a specific date to save the total population size.\n"
-                              "You can use the saved file to run general bootstrap to find the CI of spec. date.\n"
-                              "For the first simulation, you \"Open\" a file to save your data.\n"
-                              "For the second and rest simulations, you \"append\" your data to an existing file.\n"
-                              "Then you can compare the results of different projections.\n"
-                              "\"0\" means no data will be saved.\n");
-  EXPECT_EQ(prompts.titles[1], kOpenOrAppendTitle);
-  EXPECT_EQ(prompts.texts[1], "Open for the first time or append data to an existing file\n"
-                              "Click \"Yes\" to open the file for the first time.\n"
-                              "Click \"No\" to open an existing file to append data.\n");
-  EXPECT_EQ(prompts.titles[2], "Open a file to save N(t).");
-  EXPECT_EQ(prompts.titles[3], kFileCodeTitle);
-  EXPECT_EQ(prompts.texts[3], "Enter a code for this file (percentile, treatment, etc.)\n");
+  ASSERT_EQ(prompts.titles.size(), prompts.texts.size());
+  std::string dialogues;
+  for (std::size_t i = 0; i < prompts.titles.size(); ++i)
+    dialogues += "[" + prompts.titles[i] + "]\n" + prompts.texts[i];
+  EXPECT_EQ(dialogues, fileText(dataPath("date-export-prompts.expected")));
   EXPECT_EQ(exports.ExportCodeN, "0.025");
 }
 
