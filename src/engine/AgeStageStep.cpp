@@ -1,5 +1,7 @@
 #include "engine/AgeStageStep.h"
 
+#include <algorithm>
+
 namespace vorlex {
 
 namespace {
@@ -104,10 +106,16 @@ void developAgesInWindows(int lastAge, int stages, const Cells& growth, const Ce
   }
   for (int j = 1; j <= m; ++j) {
     double* next = to.stage(j);
+    // The cells of the old window that the new one leaves out: those
+    // before it and those after it.
     const AgeWindow stale = toAges[j].within(rows);
-    for (int x = stale.first; x <= stale.last; ++x)
-      if (!fed[j].holds(x))
-        next[x] = 0;
+    const AgeWindow kept = fed[j].within(stale);
+    const int before = kept.empty() ? stale.last + 1 : kept.first;
+    const int after = kept.empty() ? stale.last + 1 : kept.last + 1;
+    if (stale.first < before)
+      std::fill(next + stale.first, next + before, 0.0);
+    if (after <= stale.last)
+      std::fill(next + after, next + stale.last + 1, 0.0);
     developStage(j, m, fed[j].first, fed[j].last, growth, develop, from, to, survival, inflow);
     toAges[j] = fed[j];
   }
