@@ -49,6 +49,43 @@ private:
   bool known_ = false;
 };
 
+// The total of the sizes of a day's ages, `sizes[0..lastAge]`, summed age
+// by age in ascending order onto what it started from; a size of 0 adds
+// nothing. Sizes that the session doesn't keep go back to zero once added.
+// The sum advances one age at a time, so that it can run beside other sums
+// that don't wait on it.
+class AgeTotal {
+public:
+  AgeTotal(double* sizes, int lastAge, double start, bool forget)
+      : sizes_(sizes), last_(lastAge), total_(start), forget_(forget) {}
+
+  void addNext() {
+    if (at_ > last_)
+      return;
+    const double size = sizes_[at_];
+    if (size != 0) {
+      total_ += size;
+      if (forget_)
+        sizes_[at_] = 0;
+    }
+    ++at_;
+  }
+
+  /// The total, once the ages not yet added are.
+  double rest() {
+    while (at_ <= last_)
+      addNext();
+    return total_;
+  }
+
+private:
+  double* sizes_;
+  int at_ = 0;
+  int last_;
+  double total_;
+  bool forget_;
+};
+
 // One projection of days 1..SimTime+1. The steps of a day come in a fixed
 // order. Every total is a sum of floating-point numbers, and each one takes
 // its addends in the order of the stage-by-stage, age-by-age walk of the
@@ -141,9 +178,10 @@ private:
     consume(s);
     if (rules_.afterConsumption)
       rules_.afterConsumption(session_);
-    takeNextDay(s, !(rules_.keepMatrixOnSimTime && t == m_.SimTime));
+    // The records of the day sum the day's total beside the stages' sizes.
+    const AgeTotal total = takeNextDay(s, !(rules_.keepMatrixOnSimTime && t == m_.SimTime), rules_.dayRecords);
     if (rules_.dayRecords)
-      recordStages(s);
+      recordStages(s, total);
     else
       recordStageSizes(s);
     if (rules_.afterStageRecords)
@@ -329,8 +367,9 @@ private:
   // The next day's matrix becomes today's (unless the variant keeps the
   // older one), and the sizes of its ages are summed in the same walk.
   // The size of each age takes its stages in order; a walk stage by stage
-  // keeps that order for every age.
-  void takeNextDay(int t, bool takeOver) {
+  // keeps that order for every age. The day's total of those sizes is
+  // summed here, or, where `deferTotal`, handed back to be summed later.
+  AgeTotal takeNextDay(int t, bool takeOver, bool deferTotal) {
     if (takeOver) {
       for (int j = 1; j <= stages_; ++j) {
         const AgeWindow cells = nAges_[j].joinedWith(nextAges_[j]);
@@ -339,13 +378,19 @@ private:
       }
       nAges_ = nextAges_;
     }
-    m_.TotalSize(t) = finite(sumAges(next_, nextAges_, ageSizesOf(m_.AgeSize, daySizes_, t), m_.TotalSize(t)));
-    if (!physogastry_)
-      return;
-    for (int j = 1; j <= stages_; ++j)
-      std::copy(nextPhysoN_.stage(j), nextPhysoN_.stage(j) + lastAge_ + 1, physoN_.stage(j));
-    m_.PhysoTotalSize(t) =
-        sumAges(nextPhysoN_, physoAges_, ageSizesOf(m_.PhysoAgeSize, physoDaySizes_, t), m_.PhysoTotalSize(t));
+    double* sizes = ageSizesOf(m_.AgeSize, daySizes_, t);
+    addAges(next_, nextAges_, sizes);
+    AgeTotal total(sizes, lastAge_, m_.TotalSize(t), !session_.keepsAgeSizes);
+    if (!deferTotal)
+      m_.TotalSize(t) = finite(total.rest());
+    if (physogastry_) {
+      for (int j = 1; j <= stages_; ++j)
+        std::copy(nextPhysoN_.stage(j), nextPhysoN_.stage(j) + lastAge_ + 1, physoN_.stage(j));
+      double* physoSizes = ageSizesOf(m_.PhysoAgeSize, physoDaySizes_, t);
+      addAges(nextPhysoN_, physoAges_, physoSizes);
+      m_.PhysoTotalSize(t) = AgeTotal(physoSizes, lastAge_, m_.PhysoTotalSize(t), !session_.keepsAgeSizes).rest();
+    }
+    return total;
   }
 
   // Where the sizes of the ages of day t add up: the day's column of the
@@ -356,23 +401,13 @@ private:
   }
 
   // Adds the ages of the matrix to their sizes of the day, `sizes` (ages
-  // 0..lastAge side by side), and those sizes, age by age, to `total`.
-  // An age that no stage holds keeps its size; a size of 0 adds nothing.
-  // Sizes that the session doesn't keep go back to zero once added.
-  double sumAges(const Cells& matrix, const AgeWindows& ages, double* sizes, double total) const {
+  // 0..lastAge side by side). An age that no stage holds keeps its size.
+  void addAges(const Cells& matrix, const AgeWindows& ages, double* sizes) const {
     for (int j = 1; j <= stages_; ++j) {
       const double* n = matrix.stage(j);
       for (int x = ages[j].first; x <= ages[j].last; ++x)
         sizes[x] += n[x];
     }
-    const bool forget = !session_.keepsAgeSizes;
-    for (int x = 0; x <= lastAge_; ++x)
-      if (sizes[x] != 0) {
-        total += sizes[x];
-        if (forget)
-          sizes[x] = 0;
-      }
-    return total;
   }
 
   // The ages that any stage may hold.
@@ -383,7 +418,7 @@ private:
     return rows;
   }
 
-  void recordStages(int t) {
+  void recordStages(int t, AgeTotal total) {
     m_.StageSum(t) = 0;
     if (rules_.weighedSizeFromZero)
       m_.WeighedSize(t) = 0;
@@ -396,15 +431,17 @@ private:
       sizes[j] = m_.StageSize(j, t);
       deaths[j] = m_.StageDeath(t, j);
     }
-    // Two stages at a time: their sums don't wait on each other, and each
-    // still takes its own ages in ascending order.
+    // Two stages at a time, and the day's total beside them: their sums
+    // don't wait on each other, and each still takes its own addends in
+    // ascending order of age.
     for (int j = 1; j <= stages_; j += 2) {
       const int other = j < stages_ ? j + 1 : 0; // stage 0 has no ages
       if (rules_.deaths)
-        sumTwoStages<true>(j, other, sizes, deaths);
+        sumTwoStages<true>(j, other, sizes, deaths, total);
       else
-        sumTwoStages<false>(j, other, sizes, deaths);
+        sumTwoStages<false>(j, other, sizes, deaths, total);
     }
+    m_.TotalSize(t) = finite(total.rest());
     PerStage physoSizes{};
     if (physogastry_)
       for (int j = 1; j <= stages_; ++j) {
@@ -459,7 +496,9 @@ private:
   // The size (and deaths) of stages a and b of the next day's matrix added
   // to `sizes` (and `deaths`), each over the ages of its window in
   // ascending order; b may be 0, which holds nothing.
-  template <bool WithDeaths> void sumTwoStages(int a, int b, PerStage& sizes, PerStage& deaths) const {
+  template <bool WithDeaths>
+  void sumTwoStages(int a, int b, PerStage& sizes, PerStage& deaths, AgeTotal& dayTotal) const {
+    AgeTotal total = dayTotal; // in registers while the loops run
     const AgeWindow wa = nextAges_[a];
     const AgeWindow wb = b > 0 ? nextAges_[b] : AgeWindow{};
     const double* na = next_.stage(a) + wa.first;
@@ -471,6 +510,7 @@ private:
     double sa = sizes[a], da = deaths[a], sb = sizes[b], db = deaths[b];
     const int both = std::min(la, lb);
     for (int i = 0; i < both; ++i) {
+      total.addNext();
       sa += na[i];
       sb += nb[i];
       if constexpr (WithDeaths) {
@@ -479,15 +519,18 @@ private:
       }
     }
     for (int i = both; i < la; ++i) {
+      total.addNext();
       sa += na[i];
       if constexpr (WithDeaths)
         da += na[i] * ra[i];
     }
     for (int i = both; i < lb; ++i) {
+      total.addNext();
       sb += nb[i];
       if constexpr (WithDeaths)
         db += nb[i] * rb[i];
     }
+    dayTotal = total;
     sizes[a] = sa;
     deaths[a] = da;
     if (b > 0) {
