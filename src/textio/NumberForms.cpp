@@ -162,29 +162,56 @@ std::uint64_t eightDigits(std::uint32_t n) {
   return pairOf(high / 100) | pairOf(high % 100) << 16 | pairOf(low / 100) << 32 | pairOf(low % 100) << 48;
 }
 
-// The 15 digits of digits (10^14 <= digits < 10^15) in ASCII, the first in
-// the lowest byte of the word, its last byte 0; worked out and handled in
-// registers, and stored whole.
-u128 fifteenInAscii(std::uint64_t digits) {
-  static_assert(std::endian::native == std::endian::little);
-  // Digits 1-7 behind the '0' of a number below 10^7, then digits 8-15.
-  const std::uint64_t front = eightDigits(static_cast<std::uint32_t>(digits / 100000000)) >> 8;
-  const std::uint64_t back = eightDigits(static_cast<std::uint32_t>(digits % 100000000));
-  return (static_cast<u128>(back) << 56) | front;
-}
+void storeWord(char* out, std::uint64_t bytes) { std::memcpy(out, &bytes, sizeof bytes); }
 
-// How many of the 15 digits remain without the zeros at their end: the
-// last digit that is not '0' is the highest byte that differs from '0'.
-int significantCount(u128 fifteen) {
-  constexpr u128 kZeros = (static_cast<u128>(0x30303030303030u) << 64) | 0x3030303030303030u;
-  const u128 differs = fifteen ^ kZeros;
-  const auto high = static_cast<std::uint64_t>(differs >> 64);
-  const auto low = static_cast<std::uint64_t>(differs);
-  const int bit = high != 0 ? 127 - std::countl_zero(high) : 63 - std::countl_zero(low);
-  return bit / 8 + 1;
-}
+constexpr std::uint64_t kAsciiZeros = 0x3030303030303030u;
 
-void store(char* out, u128 bytes) { std::memcpy(out, &bytes, sizeof bytes); }
+// The 15 digits of digits (10^14 <= digits < 10^15) in ASCII, as two
+// words with the first digit in the lowest byte: digits 1-8, and digits
+// 9-15 with a last byte 0. They are worked out and placed in registers,
+// and stored a word at a time.
+struct FifteenInAscii {
+  std::uint64_t first;
+  std::uint64_t second;
+
+  explicit FifteenInAscii(std::uint64_t digits)
+      : first(eightDigits(static_cast<std::uint32_t>(digits / 10000000))),
+        second(eightDigits(static_cast<std::uint32_t>(digits % 10000000)) >> 8) {}
+
+  /// How many of the digits remain without the zeros at their end: the
+  /// last digit that is not '0' is the highest byte that differs from '0'.
+  int significant() const {
+    const std::uint64_t secondDiffers = (second ^ kAsciiZeros) & 0x00FFFFFFFFFFFFFFu;
+    if (secondDiffers != 0)
+      return 8 + (63 - std::countl_zero(secondDiffers)) / 8 + 1;
+    return (63 - std::countl_zero(first ^ kAsciiZeros)) / 8 + 1;
+  }
+
+  /// All fifteen, from `out` on.
+  void store(char* out) const {
+    storeWord(out, first);
+    storeWord(out + 8, second);
+  }
+
+  /// All fifteen with a point after the first `integerDigits` (1..14):
+  /// the word that holds the point takes it in place, the digits after it
+  /// move one byte on.
+  void storeWithPoint(char* out, int integerDigits) const {
+    const auto withPoint = [](std::uint64_t word, int digitsBefore) {
+      const int point = 8 * digitsBefore; // at most 56
+      const std::uint64_t before = (std::uint64_t{1} << point) - 1;
+      return (word & before) | (std::uint64_t{'.'} << point) | (word & ~before) << 8;
+    };
+    if (integerDigits < 8) {
+      storeWord(out, withPoint(first, integerDigits));
+      out[8] = static_cast<char>(first >> 56);
+      storeWord(out + 9, second);
+    } else {
+      storeWord(out, first);
+      storeWord(out + 8, withPoint(second, integerDigits - 8));
+    }
+  }
+};
 
 // The digits of a magnitude: a number that is not negative, or NaN, which
 // is written as 0. The copies take whole runs of digits, sixteen at a
@@ -219,17 +246,12 @@ std::size_t writeMagnitude(double value, char* out) {
     std::from_chars(p + (p[1] == '+' ? 2 : 1), written.ptr, exponent);
   }
   // The 15 digits, and how many remain without the zeros at their end.
-  const u128 fifteen = fifteenInAscii(digits);
-  const int count = significantCount(fifteen);
+  const FifteenInAscii fifteen(digits);
+  const int count = fifteen.significant();
 
   if (exponent < kSmallestFixedExponent || exponent > kLargestFixedExponent) {
-    char* o = out;
-    *o++ = static_cast<char>(fifteen);
-    if (count > 1) {
-      *o++ = '.';
-      store(o, fifteen >> 8);
-      o += count - 1;
-    }
+    fifteen.storeWithPoint(out, 1);
+    char* o = out + (count > 1 ? count + 1 : 1);
     *o++ = 'E';
     *o++ = exponent < 0 ? '-' : '+';
     const int size = std::abs(exponent);
@@ -242,19 +264,17 @@ std::size_t writeMagnitude(double value, char* out) {
     // Up to three zeros between the point and the first digit.
     std::memcpy(out, ".000", 4);
     const int zeros = -exponent - 1;
-    store(out + 1 + zeros, fifteen);
+    fifteen.store(out + 1 + zeros);
     return static_cast<std::size_t>(1 + zeros + count);
   }
   // A whole number has the zeros of its units among its digits; any other
-  // number has the point among them, one byte further on what follows it.
+  // number has the point among them.
   const int integerDigits = exponent + 1;
   if (count <= integerDigits) {
-    store(out, fifteen);
+    fifteen.store(out);
     return static_cast<std::size_t>(integerDigits);
   }
-  const int point = 8 * integerDigits; // below 120: a digit follows the point
-  const u128 integer = fifteen & ((static_cast<u128>(1) << point) - 1);
-  store(out, integer | (static_cast<u128>('.') << point) | ((fifteen >> point) << (point + 8)));
+  fifteen.storeWithPoint(out, integerDigits);
   return static_cast<std::size_t>(count + 1);
 }
 
