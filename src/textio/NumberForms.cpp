@@ -214,7 +214,7 @@ struct FifteenInAscii {
 };
 
 // The digits of a magnitude: a number that is not negative, or NaN, which
-// is written as 0. The copies take whole runs of digits, sixteen at a
+// is written as 0. The digits go out in whole words, eight bytes at a
 // time; the room of a number text takes what they write beyond the end.
 std::size_t writeMagnitude(double value, char* out) {
   // A whole number below 10^15 is its own 15 digits, written without the
