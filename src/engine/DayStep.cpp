@@ -50,10 +50,10 @@ private:
 };
 
 // The total of the sizes of a day's ages, `sizes[0..lastAge]`, summed age
-// by age in ascending order onto what it started from; a size of 0 adds
-// nothing. Sizes that the session doesn't keep go back to zero once added.
-// The sum advances one age at a time, so that it can run beside other sums
-// that don't wait on it.
+// by age in ascending order onto what it started from. Sizes that the
+// session doesn't keep go back to zero once added. The sum advances one
+// age at a time, so that it can run beside other sums that don't wait on
+// it, and without a test of its addend: a size of 0 leaves it as it is.
 class AgeTotal {
 public:
   AgeTotal(double* sizes, int lastAge, double start, bool forget)
@@ -62,12 +62,9 @@ public:
   void addNext() {
     if (at_ > last_)
       return;
-    const double size = sizes_[at_];
-    if (size != 0) {
-      total_ += size;
-      if (forget_)
-        sizes_[at_] = 0;
-    }
+    total_ += sizes_[at_];
+    if (forget_)
+      sizes_[at_] = 0;
     ++at_;
   }
 
