@@ -1,5 +1,6 @@
 #include "textio/NumberForms.h"
 
+#include "textio/AsciiDigits.h"
 #include "textio/RuntimeError.h"
 
 #include <array>
@@ -144,24 +145,6 @@ bool fifteenDigits(double value, std::uint64_t& digits, int& exponent) {
   return false;
 }
 
-constexpr char kDigitPairs[] = "00010203040506070809101112131415161718192021222324252627282930313233343536373839"
-                               "40414243444546474849505152535455565758596061626364656667686970717273747576777879"
-                               "8081828384858687888990919293949596979899";
-
-// The two digits of n < 100 in ASCII, the first in the lower byte.
-std::uint64_t pairOf(std::uint32_t n) {
-  std::uint16_t pair = 0;
-  std::memcpy(&pair, kDigitPairs + 2 * n, 2);
-  return pair;
-}
-
-// The 8 digits of n < 10^8 in ASCII, the first in the lowest byte: four
-// pairs looked up side by side.
-std::uint64_t eightDigits(std::uint32_t n) {
-  const std::uint32_t high = n / 10000, low = n % 10000;
-  return pairOf(high / 100) | pairOf(high % 100) << 16 | pairOf(low / 100) << 32 | pairOf(low % 100) << 48;
-}
-
 void storeWord(char* out, std::uint64_t bytes) { std::memcpy(out, &bytes, sizeof bytes); }
 
 constexpr std::uint64_t kAsciiZeros = 0x3030303030303030u;
@@ -174,9 +157,12 @@ struct FifteenInAscii {
   std::uint64_t first;
   std::uint64_t second;
 
-  explicit FifteenInAscii(std::uint64_t digits)
-      : first(eightDigits(static_cast<std::uint32_t>(digits / 10000000))),
-        second(eightDigits(static_cast<std::uint32_t>(digits % 10000000)) >> 8) {}
+  explicit FifteenInAscii(std::uint64_t digits) {
+    // Sixteen digits with a leading 0, which the first word leaves out.
+    const AsciiWords sixteen = asciiDigits(digits);
+    first = sixteen.first >> 8 | sixteen.second << 56;
+    second = sixteen.second >> 8;
+  }
 
   /// How many of the digits remain without the zeros at their end: the
   /// last digit that is not '0' is the highest byte that differs from '0'.

@@ -1,4 +1,5 @@
 #include "textio/NumberForms.h"
+#include "textio/AsciiDigits.h"
 #include "textio/RaisedCode.h"
 #include "textio/RuntimeError.h"
 
@@ -9,6 +10,7 @@
 #include <cstdint>
 #include <cstdio>
 #include <cstdlib>
+#include <cstring>
 #include <random>
 #include <vector>
 #include <string>
@@ -97,6 +99,31 @@ TEST(NumberFormsDigits, FifteenDigitNumbersRoundTripExactly) {
     const std::string text = digits(value);
     ASSERT_EQ(numberEntry(text), value) << source << " written as " << text;
     ASSERT_FALSE(text.starts_with("0.") || text.starts_with("-0.")) << source << " written as " << text;
+  }
+}
+
+// Both ways to the ASCII digits of a number agree with printf's, leading
+// zeros included, for numbers of every length and at the edges of their
+// halves and quarters.
+TEST(NumberFormsDigits, AsciiDigitsBothWays) {
+  std::mt19937_64 random(20261123);
+  std::vector<std::uint64_t> numbers = {0, 1, 9999, 10000, 99999999, 100000000, 100000000000000, 999999999999999,
+                                        9999999999999999};
+  for (int i = 0; i < 200000; ++i)
+    numbers.push_back(random() % (std::uint64_t{1} << (1 + i % 53)) % 10000000000000000u);
+  const auto text = [](AsciiWords words) {
+    char bytes[17] = {};
+    std::memcpy(bytes, &words.first, 8);
+    std::memcpy(bytes + 8, &words.second, 8);
+    return std::string(bytes);
+  };
+  for (const std::uint64_t number : numbers) {
+    char reference[24];
+    std::snprintf(reference, sizeof reference, "%016llu", static_cast<unsigned long long>(number));
+    ASSERT_EQ(text(asciiDigitsByPairs(number)), reference);
+#if defined(__SSE2__)
+    ASSERT_EQ(text(asciiDigitsInLanes(number)), reference);
+#endif
   }
 }
 
