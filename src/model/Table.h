@@ -127,7 +127,9 @@ public:
   explicit Table(Upper... upper) : Table(Layout::RowByRow, upper...) {}
   template <typename... Upper>
     requires(sizeof...(Upper) == Rank)
-  Table(Layout layout, Upper... upper) : upper_{static_cast<int>(upper)...}, layout_(layout), cells_(sizeOf(upper_)) {}
+  Table(Layout layout, Upper... upper)
+      : upper_{static_cast<int>(upper)...}, layout_(layout), strides_(stridesOf(upper_, layout)),
+        cells_(sizeOf(upper_)) {}
 
   template <typename... Index>
     requires(sizeof...(Index) == Rank)
@@ -168,6 +170,7 @@ public:
     if (last < 0 || last > upper_[0])
       raise(ErrorCode::SubscriptOutOfRange);
     upper_[0] = last;
+    strides_ = stridesOf(upper_, layout_);
     cells_ = detail::Storage<T>(sizeOf(upper_));
   }
   void fill(const T& value) { std::fill(cells_.data(), cells_.data() + cells_.size(), value); }
@@ -180,20 +183,34 @@ private:
     return size;
   }
 
+  // How far apart in memory the cells one index apart lie, dimension by
+  // dimension: the index that runs fastest has the stride 1.
+  static std::array<std::size_t, Rank> stridesOf(const std::array<int, Rank>& upper, Layout layout) {
+    std::array<std::size_t, Rank> strides{};
+    std::size_t stride = 1;
+    for (std::size_t k = 0; k < Rank; ++k) {
+      const std::size_t d = layout == Layout::RowByRow ? Rank - 1 - k : k;
+      strides[d] = stride;
+      stride *= static_cast<std::size_t>(upper[d]) + 1;
+    }
+    return strides;
+  }
+
   template <typename... Index> std::size_t offset(Index... index) const {
     const std::array<long long, Rank> at{index...};
     std::size_t result = 0;
-    for (std::size_t k = 0; k < Rank; ++k) {
-      const std::size_t d = layout_ == Layout::RowByRow ? k : Rank - 1 - k;
-      if (at[d] < 0 || at[d] > upper_[d])
+    for (std::size_t d = 0; d < Rank; ++d) {
+      // A negative index is a very large one as an unsigned number.
+      if (static_cast<unsigned long long>(at[d]) > static_cast<unsigned long long>(upper_[d]))
         raise(ErrorCode::SubscriptOutOfRange);
-      result = result * (static_cast<std::size_t>(upper_[d]) + 1) + static_cast<std::size_t>(at[d]);
+      result += static_cast<std::size_t>(at[d]) * strides_[d];
     }
     return result;
   }
 
   std::array<int, Rank> upper_;
   Layout layout_;
+  std::array<std::size_t, Rank> strides_;
   detail::Storage<T> cells_;
 };
 
