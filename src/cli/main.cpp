@@ -112,7 +112,7 @@ void mapCodeAtOnce() {
 void takeTheHeapAtOnce() {
 #if defined(__GLIBC__) && defined(__linux__)
   constexpr int kPopulateWrite = 23; // MADV_POPULATE_WRITE
-  constexpr std::size_t kHeap = 256 * 1024;
+  constexpr std::size_t kHeap = 320 * 1024;
   mallopt(M_MMAP_THRESHOLD, 1 << 20);
   mallopt(M_TRIM_THRESHOLD, 8 << 20);
   void* block = std::malloc(kHeap);
