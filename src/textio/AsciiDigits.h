@@ -4,7 +4,9 @@
 #include <cstdint>
 #include <cstring>
 
-#if defined(__SSE2__)
+// SSE2 on 64-bit x86, where a register's low half reads as one word.
+#if defined(__SSE2__) && defined(__x86_64__)
+#define VORLEX_DIGITS_IN_LANES 1
 #include <emmintrin.h>
 #endif
 
@@ -49,7 +51,7 @@ inline AsciiWords asciiDigitsByPairs(std::uint64_t number) {
           detail::eightDigitsByPairs(static_cast<std::uint32_t>(number % 100000000))};
 }
 
-#if defined(__SSE2__)
+#ifdef VORLEX_DIGITS_IN_LANES
 /// The digits worked out all sixteen at once in the lanes of one register:
 /// each half split in two numbers below 10^4, each of those copied into
 /// four 16-bit lanes, where a multiplication by the reciprocals of 1000,
@@ -80,7 +82,7 @@ inline AsciiWords asciiDigitsInLanes(std::uint64_t number) {
 
 /// The digits in ASCII the fastest way the processor has.
 inline AsciiWords asciiDigits(std::uint64_t number) {
-#if defined(__SSE2__)
+#ifdef VORLEX_DIGITS_IN_LANES
   return asciiDigitsInLanes(number);
 #else
   return asciiDigitsByPairs(number);
