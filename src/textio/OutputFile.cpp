@@ -4,8 +4,6 @@
 
 #include <algorithm>
 #include <cerrno>
-#include <cstring>
-#include <string_view>
 #include <utility>
 
 #include <sys/stat.h>
@@ -43,21 +41,13 @@ OutputFile::~OutputFile() {
 }
 
 int OutputFile::column() const {
-  const auto end = static_cast<long long>(size_);
-  if (end > looked_) {
-    const char* from = buffer_.get() + looked_;
-    const std::string_view unseen(from, static_cast<std::size_t>(end - looked_));
-    // The last line end of what was written since the column was asked
-    // last; the library's search takes many bytes at a time.
-#ifdef __GLIBC__
-    if (const auto* lineEnd = static_cast<const char*>(memrchr(unseen.data(), '\n', unseen.size())))
-      lineStart_ = looked_ + (lineEnd - from) + 1;
-#else
-    if (const auto at = unseen.rfind('\n'); at != std::string_view::npos)
-      lineStart_ = looked_ + static_cast<long long>(at) + 1;
-#endif
-  }
-  looked_ = end;
+  const char* text = buffer_.get();
+  for (auto at = static_cast<long long>(size_); at > looked_; --at)
+    if (text[at - 1] == '\n') {
+      lineStart_ = at;
+      break;
+    }
+  looked_ = static_cast<long long>(size_);
   return static_cast<int>(1 + static_cast<long long>(size_) - lineStart_);
 }
 
